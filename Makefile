@@ -1,0 +1,49 @@
+# A thin front for CMake. `make` builds, `make demo` runs the demo programs,
+# `make check` runs the whole test suite, `make install PREFIX=...` installs,
+# `make bench` builds and runs the benchmarks.
+BUILD ?= build
+PREFIX ?= /usr/local
+JOBS ?= $(shell nproc)
+
+BUILD_PKGS = g++ gfortran cmake ninja-build python3 pkg-config
+CHECK_PKGS = $(BUILD_PKGS) libgtest-dev
+BENCH_PKGS = $(BUILD_PKGS) libbenchmark-dev libgsl-dev libboost-math-dev
+
+.PHONY: all build demo check install bench clean deps-build deps-check deps-bench
+
+all: build
+
+deps-build:
+	@sh tools/ensure-deps.sh $(BUILD_PKGS)
+deps-check:
+	@sh tools/ensure-deps.sh $(CHECK_PKGS)
+deps-bench:
+	@sh tools/ensure-deps.sh $(BENCH_PKGS)
+
+$(BUILD)/build.ninja:
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+
+build: deps-build $(BUILD)/build.ninja
+	cmake --build $(BUILD) -j $(JOBS)
+
+demo: build
+	cmake --build $(BUILD) --target demos -j $(JOBS)
+	@echo "=== Fortran demo ==="
+	@$(BUILD)/examples/demo_fortran
+	@echo "=== C demo ==="
+	@$(BUILD)/examples/demo_c
+
+check: deps-check $(BUILD)/build.ninja
+	cmake --build $(BUILD) -j $(JOBS)
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+bench: deps-bench
+	cmake -S . -B $(BUILD) -G Ninja -DZEB_BENCH=ON
+	cmake --build $(BUILD) -j $(JOBS)
+	$(BUILD)/bench/bench_s15adf
+
+clean:
+	rm -rf $(BUILD)
