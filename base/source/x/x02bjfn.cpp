@@ -1,0 +1,4 @@
+#include "zeb_x_ib.h"
+
+// Digits in the base.
+int x02bjfn() { return 53; }
