@@ -36,7 +36,7 @@ TYPES = {
 INTENTS = ("in", "out", "inout")
 FRAMES = ("ifail", "pure", "none")
 TRACES = ("log", "plain", "none")
-ROUTINE_KEYS = {"name", "summary", "result", "frame", "trace", "sorder",
+ROUTINE_KEYS = {"name", "summary", "result", "result_len", "frame", "trace", "sorder",
                 "arg", "fail", "callback", "body"}
 ARG_KEYS = {"name", "type", "intent", "rank", "dims", "dimstat", "len",
             "interface", "summary"}
@@ -127,6 +127,12 @@ class Routine:
         self.result = d.get("result")
         if self.result is not None and self.result not in TYPES:
             raise DeclError(f"{where}: result {self.result!r}")
+        # A character function: the caller passes the result's address and
+        # length ahead of the arguments; the body fills a zeb::fchar.
+        self.result_len = None
+        if self.result == "character":
+            self.result_len = int(d["result_len"])
+            self.result = None
         self.frame = d.get("frame", "ifail")
         if self.frame not in FRAMES:
             raise DeclError(f"{where}: frame {self.frame!r}")
@@ -277,6 +283,8 @@ def body_param(a, routine):
 
 def body_params(r, with_sorder=False):
     ps = []
+    if r.result_len:
+        ps.append("zeb::fchar result")
     if with_sorder and r.sorder:
         ps.append("int sorder")
     ps += [body_param(a, r) for a in r.args]
@@ -335,6 +343,8 @@ def header_typedefs(r):
 
 def wrapper_params(r):
     ps = []
+    if r.result_len:
+        ps += ["char* result", "long result_len"]
     for a in r.args:
         n = a.cname
         if a.type == "routine":
@@ -434,6 +444,8 @@ def gen_source(r):
     wres = res
     L.append(f"extern \"C\" ZEB_EXPORT {wres} {r.name}_({', '.join(wrapper_params(r)) or 'void'}) {{")
     targs = wrapper_call_args(r)
+    if r.result_len:
+        targs = ["zeb::fchar{result, static_cast<int>(result_len > 0 ? result_len : 0)}"] + targs
     if r.sorder:
         targs = ["1"] + targs
     if r.frame == "ifail":
@@ -464,7 +476,7 @@ def gen_source(r):
 
 
 def body_call_args(r):
-    out = []
+    out = ["result"] if r.result_len else []
     for a in r.args:
         out.append(a.cname)
         if a.type == "routine":
@@ -537,6 +549,8 @@ def gen_c_header(routines):
          ""]
     for r in routines:
         ps = [c_param(a, r) for a in r.args]
+        if r.result_len:
+            ps = ["char *result", "long result_len"] + ps
         if r.frame in ("ifail", "pure"):
             ps.append("int *ifail")
         ps += [f"int {a.cname}_len" for a in r.args if a.type == "character"]
@@ -563,14 +577,16 @@ def f_decl(a, indent):
     return f"{indent}{t}, intent({a.intent}) :: {a.cname}{dims}"
 
 
-def f_routine(name, result, args, has_ifail, indent, rname=None):
+def f_routine(name, result, args, has_ifail, indent, result_len=None):
     L = []
+    if result_len:
+        result = "character"
     argnames = [a.cname for a in args] + (["ifail"] if has_ifail else [])
     kind = "function" if result else "subroutine"
     L.append(f"{indent}{kind} {name}({', '.join(argnames)})")
     L.append(f"{indent}  import :: wp, sp")
     if result:
-        t = TYPES[result][2]
+        t = TYPES[result][2] if not result_len else f"character(len={result_len})"
         L.append(f"{indent}  {t} :: {name}")
     # Scalars first, so that array bounds may name them.
     ordered = [a for a in args if a.rank == 0 and a.type != "routine"] + \
@@ -597,7 +613,8 @@ def gen_fortran(routines):
          "  implicit none",
          "  interface"]
     for r in routines:
-        L += f_routine(r.name, r.result, r.args, r.frame in ("ifail", "pure"), "    ")
+        L += f_routine(r.name, r.result, r.args, r.frame in ("ifail", "pure"), "    ",
+                       r.result_len)
     L += ["  end interface", "end module zeb_library", ""]
     return "\n".join(L)
 
