@@ -26,10 +26,6 @@ inline constexpr int line_len = 80;
 // The line array handed to the exit when there are no message lines.
 inline constexpr fcharray no_lines{nullptr, line_len};
 
-// Trace hook of the generated trace layers: opens (entry) or closes (exit)
-// the argument block of a traced call.
-void trace_call(std::string_view trace_name, bool entry);
-
 }  // namespace zeb
 
 // Steps 2 and 3 of a wrapper on a non-zero code: decode the record in

@@ -143,7 +143,7 @@ TEST(SafeText, SeparatorsNumbersAndLength) {
 TEST(Decode, HeadItemsAndLimit) {
   char errbuf[zeb::errbuf_len];
   make_record(errbuf, "(3(1X,I5),2(1X,1P,E12.4))", {1, 99998, 2, 171.0, 170.0});
-  EXPECT_EQ(std::string(errbuf, 43), "     1 99998     2   1.7100E+02   1.7000E+02");
+  EXPECT_EQ(std::string(errbuf, 44), "     1 99998     2   1.7100E+02   1.7000E+02");
   int code = 0, number = 0, nt = 0, nr = 0;
   char texts[12 * 16];
   double reals[12];
