@@ -39,7 +39,10 @@ TRACES = ("log", "plain", "none")
 ROUTINE_KEYS = {"name", "summary", "result", "result_len", "frame", "trace", "sorder",
                 "arg", "fail", "callback", "body"}
 ARG_KEYS = {"name", "type", "intent", "rank", "dims", "dimstat", "len",
-            "interface", "summary"}
+            "interface", "summary", "from"}
+# Arguments that the wrapper supplies itself, not the caller: the statement
+# that fills the local of that name.
+FROM = {"advisory_unit": "x04abft(0, {name});", "error_unit": "x04aaft(0, {name});"}
 FAIL_KEYS = {"code", "number", "message"}
 
 
@@ -72,6 +75,10 @@ class Arg:
         if len(self.dimstat) != self.rank:
             raise DeclError(f"{where}: argument {self.name}: dimstat length")
         self.len = str(d.get("len", "*"))
+        self.source = d.get("from")
+        if self.source is not None and (self.source not in FROM or self.type != "integer"
+                                        or self.rank):
+            raise DeclError(f"{where}: argument {self.name}: from {self.source!r}")
         self.interface = None
         if self.type == "routine":
             itf = d.get("interface")
@@ -341,11 +348,16 @@ def header_typedefs(r):
 # Wrapper (the Fortran-callable entry point)
 
 
+def public_args(r):
+    """The arguments a caller passes: all but those the wrapper supplies."""
+    return [a for a in r.args if a.source is None]
+
+
 def wrapper_params(r):
     ps = []
     if r.result_len:
         ps += ["char* result", "long result_len"]
-    for a in r.args:
+    for a in public_args(r):
         n = a.cname
         if a.type == "routine":
             ps.append(f"{fn_type(r, a)} {n}")
@@ -364,7 +376,9 @@ def wrapper_call_args(r):
     out = []
     for a in r.args:
         n = a.cname
-        if a.type == "routine":
+        if a.source is not None:
+            out.append(n)
+        elif a.type == "routine":
             out += [n, f"{r.name}_{n}h"]
         elif a.type == "character":
             ln = f"({n}_len > 0 ? {n}_len : 0)"
@@ -410,6 +424,8 @@ def gen_source(r):
     L.append("#include \"zeb_wrap.h\"")
     if r.trace == "log":
         L.append("#include \"zeb_y_ib_aux.h\"")
+    if r.letter != "x" and any(a.source for a in r.args):
+        L.append("#include \"zeb_x_ib.h\"")
     L.append("")
     L += gen_thunks(r)
     res = result_cxx(r.result)
@@ -443,6 +459,10 @@ def gen_source(r):
     # Wrapper.
     wres = res
     L.append(f"extern \"C\" ZEB_EXPORT {wres} {r.name}_({', '.join(wrapper_params(r)) or 'void'}) {{")
+    for a in r.args:
+        if a.source is not None:
+            L.append(f"  int {a.cname} = 0;")
+            L.append("  " + FROM[a.source].format(name=a.cname))
     targs = wrapper_call_args(r)
     if r.result_len:
         targs = ["zeb::fchar{result, static_cast<int>(result_len > 0 ? result_len : 0)}"] + targs
@@ -648,7 +668,7 @@ def gen_c_header(routines):
          "#endif",
          ""]
     for r in routines:
-        ps = [c_param(a, r) for a in r.args]
+        ps = [c_param(a, r) for a in public_args(r)]
         if r.result_len:
             ps = ["char *result", "long result_len"] + ps
         if r.frame in ("ifail", "pure"):
@@ -713,7 +733,7 @@ def gen_fortran(routines):
          "  implicit none",
          "  interface"]
     for r in routines:
-        L += f_routine(r.name, r.result, r.args, r.frame in ("ifail", "pure"), "    ",
+        L += f_routine(r.name, r.result, public_args(r), r.frame in ("ifail", "pure"), "    ",
                        r.result_len)
     L += ["  end interface", "end module zeb_library", ""]
     return "\n".join(L)
