@@ -1,0 +1,10 @@
+#include "zeb_x_ib.h"
+
+// The plain printer: the labelled one with the automatic format, rows and
+// columns numbered, lines of 80 characters and no indent.
+void x04cefn(int m, int n, int kl, int ku, const double* a, int lda,
+             std::string_view title, int nout, char* errbuf, int& ifail) {
+  const zeb::fcharray none{nullptr, 0};
+  x04cffn(m, n, kl, ku, a, lda, "", title, "I", none, "I", none, 80, 0, nout,
+          errbuf, ifail);
+}

@@ -1,0 +1,11 @@
+#include "zeb_x_ib.h"
+
+// The plain printer: the labelled one with the automatic format, rows and
+// columns numbered, lines of 80 characters and no indent.
+void x04eafn(std::string_view matrix, std::string_view diag, int m, int n,
+             const int* a, int lda, std::string_view title, int nout,
+             char* errbuf, int& ifail) {
+  const zeb::fcharray none{nullptr, 0};
+  x04ebfn(matrix, diag, m, n, a, lda, "", title, "I", none, "I", none, 80, 0,
+          nout, errbuf, ifail);
+}
