@@ -334,11 +334,11 @@ int x04cbzn(const x04_matrix& a, std::string_view form, char usefrm,
       emit(L, line, len);
     }
     for (int i = 1; i <= rows; ++i) {
-      // A row with no stored entry in this strip is left out.
+      // Every row has its line, with or without entries in this strip; the
+      // line of imaginary parts only where there are entries.
       bool any = false;
       for (int j = j0; j <= j1 && !any; ++j) any = x04cbwn(a, i, j).state != 0;
-      if (!any) continue;
-      const int parts = (a.type == 'Z' && usefrm == 'A') ? 2 : 1;
+      const int parts = (a.type == 'Z' && usefrm == 'A' && any) ? 2 : 1;
       for (int part = 0; part < parts; ++part) {
         std::memset(line, ' ', sizeof line);
         if (part == 0 && labrow == 'I') {
