@@ -27,11 +27,11 @@ int main(void) {
   call_exit(21, 7, 2);  /* tens digit 2 prints, units digit 1 returns */
   call_exit(2, 7, 2);   /* units digit 2 but no tens digit: silent, returns */
 
-  printf(" --- s14aaf_(170.5) with IFAIL = 0: success\n");
-  x = 170.5;
+  printf(" --- s14aaf_(170.0) with IFAIL = 0: success\n");
+  x = 170.0;
   ifail = 0;
   y = s14aaf_(&x, &ifail);
-  printf(" IFAIL %d, finite result: %s\n", ifail, y > 1e306 ? "yes" : "no");
+  printf(" IFAIL %d, finite result: %s\n", ifail, y > 4.26e304 && y < 4.27e304 ? "yes" : "no");
   printf(" --- s14abf_(0.0) with IFAIL = 11\n");
   x = 0.0;
   ifail = 11;
