@@ -2,6 +2,7 @@
 #include <string>
 
 #include "y90_text.h"
+#include "zeb_w_ib_aux.h"
 #include "zeb_x_ib_aux.h"
 #include "zeb_y_ib_aux.h"
 
@@ -13,8 +14,13 @@ void y90_value_line(std::string_view label, std::string_view value) {
   y90ahft(text);
 }
 
-void y90_address_line() {
-  y90_value_line("   Address", "(No ISO_C_BINDING; no addresses)");
+// The address line: the text that the w04f piece of the value's type makes.
+template <class T>
+void y90_address_line(const T& value, void (*tell)(const T&, char*, int)) {
+  char text[40];
+  tell(value, text, sizeof text);
+  std::string_view t(text, sizeof text);
+  y90_value_line("   Address", t.substr(0, t.find_last_not_of(' ') + 1));
 }
 
 std::string y90adzn(long long v) {
@@ -37,30 +43,33 @@ std::string y90aezn(int v) { return v != 0 ? ".TRUE." : ".FALSE."; }
 
 void y90adft(std::string_view name, long long value, int addr) {
   y90_value_line(name, y90adzn(value));
-  if (addr != 0) y90_address_line();
+  const int v = static_cast<int>(value);
+  if (addr != 0) y90_address_line(v, w04fdzn);
 }
 
 void y90aeft(std::string_view name, int value, int addr) {
   y90_value_line(name, y90aezn(value));
-  if (addr != 0) y90_address_line();
+  if (addr != 0) y90_address_line(value, w04fezn);
 }
 
 void y90agft(std::string_view name, double value, int addr) {
   y90_value_line(name, y90agzn(value));
-  if (addr != 0) y90_address_line();
+  if (addr != 0) y90_address_line(value, w04fgzn);
 }
 
 void y90afet(std::string_view name, float value, int addr) {
-  y90agft(name, static_cast<double>(value), addr);
+  y90_value_line(name, y90agzn(static_cast<double>(value)));
+  if (addr != 0) y90_address_line(value, w04ffzm);
 }
 
 void y90acft(std::string_view name, std::complex<double> value, int addr) {
   y90_value_line(name, y90agzn(value.real()) + " " + y90agzn(value.imag()));
-  if (addr != 0) y90_address_line();
+  if (addr != 0) y90_address_line(value, w04fczn);
 }
 
 void y90abet(std::string_view name, std::complex<float> value, int addr) {
-  y90acft(name, std::complex<double>(value.real(), value.imag()), addr);
+  y90_value_line(name, y90agzn(value.real()) + " " + y90agzn(value.imag()));
+  if (addr != 0) y90_address_line(value, w04fbzm);
 }
 
 void y90aaft(std::string_view name, std::string_view value, int nulend, int addr) {
@@ -77,5 +86,10 @@ void y90aaft(std::string_view name, std::string_view value, int nulend, int addr
   text += '"';
   // The opening quote stands in column 55, the text from column 56.
   y90_value_line(name, text);
-  if (addr != 0) y90_address_line();
+  if (addr != 0) {
+    char where[40];
+    w04fazn(value, where, sizeof where);
+    std::string_view t(where, sizeof where);
+    y90_value_line("   Address", t.substr(0, t.find_last_not_of(' ') + 1));
+  }
 }

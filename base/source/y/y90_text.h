@@ -7,8 +7,6 @@
 // A scalar line: the label from column 5, a colon at column 50 and the value
 // text from column 55.
 void y90_value_line(std::string_view label, std::string_view value);
-// The address line that follows a scalar the caller supplied.
-void y90_address_line();
 // The texts of values: "(I20)"; "NaN" or "(1P,E22.15)"; ".TRUE."/".FALSE.".
 std::string y90adzn(long long v);
 std::string y90agzn(double v);
