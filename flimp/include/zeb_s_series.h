@@ -1,0 +1,84 @@
+// Evaluation of the stored series of chapter s in straight-line Horner form:
+// the recursion below unrolls at compile time, so a series written as a
+// constexpr table compiles to one multiply and one add per coefficient, with
+// no loop and no table look-up.
+#pragma once
+
+#include <cstddef>
+
+#include "zeb_dd.h"
+
+namespace zeb::series {
+
+namespace detail {
+
+template <std::size_t K, std::size_t N>
+inline double horner_to(double t, const double (&c)[N]) {
+  if constexpr (K == 0) {
+    return c[0];
+  } else {
+    return horner_to<K - 1>(t, c) * t + c[K];
+  }
+}
+
+// c[K] + c[K+1] t + ... + c[N-1] t^(N-1-K): ascending from index K.
+template <std::size_t K, std::size_t N>
+inline double horner_up(double t, const double (&c)[N]) {
+  if constexpr (K + 1 == N) {
+    return c[K];
+  } else {
+    return horner_up<K + 1>(t, c) * t + c[K];
+  }
+}
+
+// The chain of every second coefficient ending at index Last, in Horner's
+// rule in s: c[Last] + c[Last-2] s + c[Last-4] s^2 + ...
+template <std::size_t Last, std::size_t N>
+inline double chain2(double s, const double (&c)[N]) {
+  if constexpr (Last < 2) {
+    return c[Last];
+  } else {
+    return chain2<Last - 2>(s, c) * s + c[Last];
+  }
+}
+
+}  // namespace detail
+
+// Sum of c[k] t^(N-1-k): the table holds the coefficients from the highest
+// power down.
+template <std::size_t N>
+inline double horner(double t, const double (&c)[N]) {
+  static_assert(N >= 1);
+  return detail::horner_to<N - 1>(t, c);
+}
+
+// The same sum by the second-order Horner rule: the even and the odd powers
+// as two Horner chains in t^2, joined at the end. The two chains run side by
+// side, which halves the length of the dependent sequence of a long series.
+template <std::size_t N>
+inline double horner2(double t, const double (&c)[N]) {
+  static_assert(N >= 2);
+  const double s = t * t;
+  return detail::chain2<N - 1>(s, c) + t * detail::chain2<N - 2>(s, c);
+}
+
+// A piece of a piecewise series: the table holds
+//   {c, p0 hi, p0 lo, p1 hi, p1 lo, p2 hi, p2 lo, p3 hi, p3 lo, p4, ..., pn}
+// for the polynomial p0 + p1 t + ... + pn t^n in t = x - c, and `x - c` must
+// be exact (the caller's x lies within a factor 2 of c). The leading two
+// terms are summed in double-double, so the rounding of the tail
+// p2 t^2 + ... only touches the part of the value that it contributes; the
+// low parts of p0 to p3 keep the rounding of the coefficients themselves out.
+template <std::size_t N>
+inline double piece(double x, const double (&k)[N]) {
+  static_assert(N >= 11);
+  const double t = x - k[0];
+  const double tail = (detail::horner_up<9>(t, k) * t + k[7]) * t + k[5];
+  const double tlo = k[6] + t * k[8];  // low parts of p2 + p3 t
+  const dd::dd p1t = dd::two_prod(t, k[3]);
+  const double lo = p1t.lo + t * k[4] + t * (t * tail) + (t * t) * tlo + k[2];
+  const dd::dd s = dd::two_sum(k[1], p1t.hi);
+  return s.hi + (s.lo + lo);
+}
+
+}  // namespace zeb::series
