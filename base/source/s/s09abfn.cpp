@@ -1,0 +1,47 @@
+// arccos x.
+#include <cmath>
+
+#include "zeb_dd.h"
+#include "zeb_frame.h"
+#include "zeb_s_ib.h"
+
+// R(u) with asin(x) = x + x^3 R(x^2), x^2 <= 1/4 (s09aazn.cpp).
+double s09aazn(double u);
+
+namespace {
+
+// pi/2 and pi as hi + lo (mpmath, 50 digits).
+constexpr double kPio2Hi = 1.5707963267948966;
+constexpr double kPio2Lo = 6.123233995736766e-17;
+constexpr double kPiHi = 3.141592653589793;
+constexpr double kPiLo = 1.2246467991473532e-16;
+
+}  // namespace
+
+// abs(x) <= 1/2: acos x = pi/2 - asin x, with pi/2 - x formed exactly.
+// Above, with z = (1 - abs x)/2 and s = sqrt z (carried as hi + lo from the
+// exact remainder z - s^2): acos x = 2 asin(s) for x > 0, pi - 2 asin(s) for
+// x < 0, asin(s) = s + s z R(z).
+double s09abfn(double x, char* errbuf, int& ifail) {
+  zeb::errbuf_clear(errbuf);
+  const double a = std::fabs(x);
+  if (a > 1.0) {
+    zeb::errbuf_record(errbuf, "(3(1X,I5),1X,1P,E13.5)", {1, 99999, 1, x});
+    zeb::errbuf_close(errbuf, 1, ifail);
+    return 0.0;
+  }
+  zeb::errbuf_close(errbuf, 0, ifail);
+  if (!(a > 0.5)) {
+    const double u = x * x;
+    const zeb::dd::dd h = zeb::dd::two_sum(kPio2Hi, -x);
+    return h.hi + ((h.lo + kPio2Lo) - x * (u * s09aazn(u)));
+  }
+  const double z = 0.5 * (1.0 - a);  // exact for abs x in [1/2, 1]
+  const double sh = std::sqrt(z);
+  const zeb::dd::dd sq = zeb::dd::two_prod(sh, sh);
+  const double sl = sh > 0.0 ? ((z - sq.hi) - sq.lo) / (2.0 * sh) : 0.0;
+  const double tail = sl + sh * (z * s09aazn(z));  // asin(s) - sh
+  if (x > 0.0) return 2.0 * sh + 2.0 * tail;
+  const zeb::dd::dd h = zeb::dd::two_sum(kPiHi, -2.0 * sh);
+  return h.hi + ((h.lo + kPiLo) - 2.0 * tail);
+}
