@@ -86,6 +86,8 @@ enum Status : int {
 // CHARACTER*(reclen) array of `nrec` elements). Records written are padded
 // with blanks to `reclen`; records not reached are left untouched.
 // On return `*nused` (if not null) holds the number of records written.
+// Tabbing left of a record's start is TooManyRecords, as the runtime reports
+// it as an end of file.
 Status write_internal(std::string_view format, ItemSource& items, char* buf,
                       int reclen, int nrec, int* nused = nullptr);
 
@@ -102,7 +104,10 @@ bool valid_format(std::string_view format);
 // Items are stored into `out` in the order the format consumes them: one Item
 // per data edit descriptor, of the kind the descriptor reads (I gives Int;
 // F, E, D, G give Real; L gives Logical; A gives Text pointing into `buf`).
-// At most `maxitems` items are read.
+// At most `maxitems` items are read. An A without a width takes the rest of
+// the record. One record is read as the runtime reads a CHARACTER scalar,
+// several as a CHARACTER array (the two differ in how trailing blanks bound
+// TL and real fields under BN).
 Status read_internal(std::string_view format, const char* buf, int reclen,
                      int nrec, int maxitems, std::vector<Item>& out);
 
