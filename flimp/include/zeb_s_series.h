@@ -62,6 +62,34 @@ inline double horner2(double t, const double (&c)[N]) {
   return detail::chain2<N - 1>(s, c) + t * detail::chain2<N - 2>(s, c);
 }
 
+// The odd series x + x^3/k + x^5 S(x^2), for a small integer k (negative for
+// a minus sign) and kinv = 1/k rounded, less its first term: q + r with q the
+// rounded x^3/k and r the rest. x^3 is formed exactly but for a term of
+// 2^-106 of it, the remainder of the quotient x^3/k - q exactly, and only
+// x^5 S(x^2), a small part of the value, in double. The table S holds the
+// coefficients from the highest power.
+template <std::size_t N>
+inline void odd_tail(double x, double k, double kinv, const double (&S)[N], double& q,
+                     double& r) {
+  const dd::dd u = dd::two_prod(x, x);
+  const dd::dd c3 = dd::two_prod(x, u.hi);
+  const double c3l = c3.lo + x * u.lo;
+  q = c3.hi * kinv;
+  const dd::dd qk = dd::two_prod(q, k);
+  const double e = (((c3.hi - qk.hi) - qk.lo) + c3l) * kinv;
+  r = e + c3.hi * (u.hi * horner2(u.hi, S));
+}
+
+// The odd series itself, x + q + r with x + q summed exactly; |q| <= |x|.
+template <std::size_t N>
+inline double odd_series(double x, double k, double kinv, const double (&S)[N]) {
+  double q = 0.0;
+  double r = 0.0;
+  odd_tail(x, k, kinv, S, q, r);
+  const dd::dd s = dd::fast_two_sum(x, q);
+  return s.hi + (s.lo + r);
+}
+
 // A piece of a piecewise series: the table holds
 //   {c, p0 hi, p0 lo, p1 hi, p1 lo, p2 hi, p2 lo, p3 hi, p3 lo, p4, ..., pn}
 // for the polynomial p0 + p1 t + ... + pn t^n in t = x - c, and `x - c` must

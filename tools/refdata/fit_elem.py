@@ -157,28 +157,7 @@ def fmt(v):
 
 
 # ---------------------------------------------------------------------------
-# Tables of the form f(x) = x + x^3 R(x^2)
-
-
-def odd_series(F, c0, umax, n):
-    """R(u) = (F(sqrt u) - sqrt u) / u^(3/2) on [0, umax], weighted by the
-    error it causes in F relative to F; the constant term held at c0 rounded
-    to double."""
-    def R(u):
-        if u == 0:
-            return c0
-        s = mp.sqrt(u)
-        with mp.workdps(80):
-            return (F(s) - s) / (u * s)
-
-    def w(u, ru):
-        if u == 0:
-            return mp.mpf(10) ** -8
-        s = mp.sqrt(u)
-        return max(u, mp.mpf(10) ** -8) * s / abs(F(s))
-
-    coef = remez_rounded(R, 0, umax, n, w, {0: rounded(c0)})
-    return coef, measure(R, 0, umax, coef, w)
+# Tables of the form f(x) = x + c1 x^3 + x^5 S(x^2)
 
 
 def emit_desc(name, comment, coef):
@@ -191,15 +170,37 @@ def emit_desc(name, comment, coef):
     return "\n".join(lines)
 
 
-def odd_table(name, what, F, c0, umax, n, umax_text):
-    coef, err = odd_series(F, c0, umax, n)
-    comment = (f"{what}: R(u) = ({what.split('(')[0]}(x) - x) / x^3 with u = x^2, "
-               f"minimax polynomial of degree {n} in u on [0, {umax_text}] for the "
-               f"error relative to the function, constant term held at its "
-               f"double value; fitted by {SCRIPT}, max relative error of "
-               f"x + x^3 R(x^2) {mp.nstr(err, 2)} with the coefficients as stored. "
-               f"From the highest power.")
+def odd_tail_table(name, what, F, c1, c1_text, umax, n, umax_text):
+    """S(u) with F(x) = x + c1 x^3 + x^5 S(x^2): the bodies form x + c1 x^3
+    in double-double, so only S is stored; weighted by the error it causes in
+    F relative to F."""
+    def S(u):
+        if u == 0:
+            return _taylor5(F)
+        s = mp.sqrt(u)
+        with mp.workdps(80):
+            return ((F(s) - s) / (u * s) - c1) / u
+
+    def w(u, su):
+        if u == 0:
+            return mp.mpf(10) ** -8
+        s = mp.sqrt(u)
+        return max(u * u, mp.mpf(10) ** -8) * s / abs(F(s))
+
+    coef = remez_rounded(S, 0, umax, n, w)
+    err = measure(S, 0, umax, coef, w)
+    comment = (f"{what}: S(u) with {what.split('(')[0]}(x) = x + {c1_text} x^3 + "
+               f"x^5 S(x^2), u = x^2, minimax polynomial of degree {n} in u on "
+               f"[0, {umax_text}] for the error relative to the function; fitted "
+               f"by {SCRIPT}, max relative error of the function "
+               f"{mp.nstr(err, 2)} with the coefficients rounded to double. From "
+               f"the highest power.")
     return emit_desc(name, comment, coef)
+
+
+def _taylor5(F):
+    """The x^5 Taylor coefficient of F."""
+    return mp.taylor(F, 0, 5)[5]
 
 
 # ---------------------------------------------------------------------------
@@ -444,23 +445,23 @@ def aux_fg(which):
 TABLES = {
     # name: (source file, generator)
     "tan": ("base/source/s/s07aafn.cpp",
-            lambda: odd_table("kTanR", "tan(x)", mp.tan, mp.mpf(1) / 3,
-                              mp.mpf("0.7875") ** 2, 14, "0.7875^2")),
+            lambda: odd_tail_table("kTanS", "tan(x)", mp.tan, mp.mpf(1) / 3, "1/3",
+                                   mp.mpf("0.7875") ** 2, 13, "0.7875^2")),
     "asin": ("base/source/s/s09aazn.cpp",
-             lambda: odd_table("kAsinR", "asin(x)", mp.asin, mp.mpf(1) / 6,
-                               mp.mpf("0.25"), 12, "0.25")),
+             lambda: odd_tail_table("kAsinS", "asin(x)", mp.asin, mp.mpf(1) / 6, "1/6",
+                                    mp.mpf("0.25"), 11, "0.25")),
     "tanh": ("base/source/s/s10aafn.cpp",
-             lambda: odd_table("kTanhR", "tanh(x)", mp.tanh, -mp.mpf(1) / 3,
-                               mp.mpf(1), 15, "1")),
+             lambda: odd_tail_table("kTanhS", "tanh(x)", mp.tanh, -mp.mpf(1) / 3, "(-1/3)",
+                                    mp.mpf(1), 14, "1")),
     "sinh": ("base/source/s/s10abfn.cpp",
-             lambda: odd_table("kSinhR", "sinh(x)", mp.sinh, mp.mpf(1) / 6,
-                               mp.mpf(1), 7, "1")),
+             lambda: odd_tail_table("kSinhS", "sinh(x)", mp.sinh, mp.mpf(1) / 6, "1/6",
+                                    mp.mpf(1), 6, "1")),
     "atanh": ("base/source/s/s11aazn.cpp",
-              lambda: odd_table("kAtanhR", "atanh(x)", mp.atanh, mp.mpf(1) / 3,
-                                mp.mpf("0.5"), 20, "0.5")),
+              lambda: odd_tail_table("kAtanhS", "atanh(x)", mp.atanh, mp.mpf(1) / 3, "1/3",
+                                     mp.mpf("0.5"), 19, "0.5")),
     "asinh": ("base/source/s/s11abfn.cpp",
-              lambda: odd_table("kAsinhR", "asinh(x)", mp.asinh, -mp.mpf(1) / 6,
-                                mp.mpf(1), 20, "1")),
+              lambda: odd_tail_table("kAsinhS", "asinh(x)", mp.asinh, -mp.mpf(1) / 6, "(-1/6)",
+                                     mp.mpf(1), 19, "1")),
     "cin": ("base/source/s/s13acfn.cpp", cin_small),
     "cinq": ("base/source/s/s13acfn.cpp", cin_zero),
     "ci": ("base/source/s/s13acfn.cpp", ci_piece_tables),

@@ -13,13 +13,15 @@ void fail(char* errbuf, int code, int number, double x, double y, int& ifail) {
   zeb::errbuf_close(errbuf, code, ifail);
 }
 
-// e^x v for a v of magnitude at most 1, e = e^x, h = e^(x/2): past
-// ln(1/x02amf) the product is formed from the two halves, since e^x alone may
-// exceed the largest real when the product does not. A zero v stays an exact
-// zero (the imaginary part on the real axis).
-double scaled(double e, double h, bool split, double v) {
+// e^x v for a v of magnitude at most 1, e = e^x: where e itself overflows
+// (x beyond about 709.78) though the product may not, the product is formed
+// from the two halves e^(x/2). A zero v stays an exact zero (the imaginary
+// part on the real axis).
+double scaled(double x, double e, double v) {
   if (v == 0.0) return v;
-  return split ? (h * v) * h : e * v;
+  if (!std::isinf(e)) return e * v;
+  const double h = std::exp(0.5 * x);
+  return (h * v) * h;
 }
 
 }  // namespace
@@ -54,10 +56,8 @@ std::complex<double> s01eafn(std::complex<double> z, char* errbuf, int& ifail) {
     re_over = x + std::log(std::fabs(c)) > lnbig;
     im_over = x + std::log(std::fabs(s)) > lnbig;
   }
-  const bool split = e > big;
-  const double h = split ? std::exp(0.5 * x) : 0.0;
-  const double re = re_over ? 0.0 : scaled(e, h, split, c);
-  const double im = im_over ? 0.0 : scaled(e, h, split, s);
+  const double re = re_over ? 0.0 : scaled(x, e, c);
+  const double im = im_over ? 0.0 : scaled(x, e, s);
 
   if (re_over && im_over) {
     fail(errbuf, 3, 99997, x, y, ifail);

@@ -11,27 +11,26 @@ namespace {
 using zeb::dd::dd;
 
 // <fit_elem:tan>
-// tan(x): R(u) = (tan(x) - x) / x^3 with u = x^2, minimax polynomial of degree
-// 14 in u on [0, 0.7875^2] for the error relative to the function, constant
-// term held at its double value; fitted by tools/refdata/fit_elem.py, max
-// relative error of x + x^3 R(x^2) 1.3e-18 with the coefficients as stored.
-// From the highest power.
-constexpr double kTanR[15] = {
-    9.598571799894982e-06,
-    -2.330667178168715e-05,
-    4.653189341907077e-05,
-    -2.2907111207522547e-05,
-    6.48784542495546e-05,
-    8.496594520359008e-05,
-    0.00024314558111785664,
-    0.0005890531140092957,
-    0.001456003195939701,
-    0.0035921076474950903,
-    0.008863237174707907,
-    0.021869488453817074,
-    0.05396825397048244,
-    0.1333333333333101,
-    0.3333333333333333,
+// tan(x): S(u) with tan(x) = x + 1/3 x^3 + x^5 S(x^2), u = x^2, minimax
+// polynomial of degree 13 in u on [0, 0.7875^2] for the error relative to the
+// function; fitted by tools/refdata/fit_elem.py, max relative error of the
+// function 1.2e-18 with the coefficients rounded to double. From the highest
+// power.
+constexpr double kTanS[14] = {
+    9.611146373908842e-06,
+    -2.3366233402696922e-05,
+    4.665905861698923e-05,
+    -2.3068799513007414e-05,
+    6.501472256553559e-05,
+    8.488577754479813e-05,
+    0.00024317934929276845,
+    0.0005890428367768627,
+    0.0014560054481607954,
+    0.003592107297574345,
+    0.008863237212118817,
+    0.021869488451199376,
+    0.05396825397059261,
+    0.1333333333333077,
 };
 // </fit_elem:tan>
 
@@ -39,6 +38,9 @@ constexpr double kTanR[15] = {
 // ones leave (mpmath, 50 digits): 159 bits, enough that n pi/2 for the
 // multiples n below 2^43 that the argument limit allows is carried to far
 // below the spacing of the doubles near any of its residues.
+// 1/3 rounded; the remainder of the division it stands for is recovered.
+constexpr double kThird = 0.3333333333333333;
+
 constexpr double kPio2A = 1.5707963267948966;
 constexpr double kPio2B = 6.123233995736766e-17;
 constexpr double kPio2C = -1.4973849048591698e-33;
@@ -62,9 +64,9 @@ dd reduce(double x, double n) {
 }  // namespace
 
 // n = nearest integer to x 2/pi, r = x - n pi/2 with |r| <= pi/4 (and a
-// little), tan r = r + r^3 R(r^2), and for odd n tan x = -1/tan r, the
-// reciprocal taken in double-double. The low part of r enters through
-// tan(rh + rl) = tan rh + rl (1 + tan^2 rh).
+// little), tan r = r + r^3/3 + r^5 S(r^2) with r + r^3/3 in double-double,
+// and for odd n tan x = -1/tan r, the reciprocal taken in double-double. The
+// low part of r enters through tan(rh + rl) = tan rh + rl (1 + tan^2 rh).
 double s07aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   const double ax = std::fabs(x);
@@ -83,11 +85,18 @@ double s07aafn(double x, char* errbuf, int& ifail) {
   const dd r = n == 0.0 ? dd{x, 0.0} : reduce(x, n);
   const bool odd = (static_cast<long long>(n) & 1) != 0;
 
-  const double u = r.hi * r.hi;
-  const double c0 = r.hi * (u * zeb::series::horner2(u, kTanR));
-  const double t0 = r.hi + c0;
-  const double c = c0 + r.lo * (1.0 + t0 * t0);
-  const dd t = zeb::dd::fast_two_sum(r.hi, c);
+  // r^3 = c3 + c3l exactly but for the rounding of a term of 2^-106 of it;
+  // r^3/3 = q + e with q rounded and e its remainder.
+  const dd u = zeb::dd::two_prod(r.hi, r.hi);
+  const dd c3 = zeb::dd::two_prod(r.hi, u.hi);
+  const double c3l = c3.lo + r.hi * u.lo;
+  const double q = c3.hi * kThird;
+  const dd q3 = zeb::dd::two_prod(q, 3.0);
+  const double e = (((c3.hi - q3.hi) - q3.lo) + c3l) * kThird;
+  const double t5 = c3.hi * (u.hi * zeb::series::horner2(u.hi, kTanS));
+  const double t0 = r.hi + q;
+  const dd s = zeb::dd::fast_two_sum(r.hi, q);
+  const dd t = zeb::dd::fast_two_sum(s.hi, s.lo + ((e + t5) + r.lo * (1.0 + t0 * t0)));
   if (!odd) return t.hi;
   // Within 1e-14 of an odd multiple of pi/2, relative to x, the value is
   // still the tangent, large and of the right sign, but reported.

@@ -5,8 +5,8 @@
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 
-// R(u) with asin(x) = x + x^3 R(x^2), x^2 <= 1/4 (s09aazn.cpp).
-double s09aazn(double u);
+// asin(x) - x = q + r for abs(x) <= 1/2, q the rounded x^3/6 (s09aazn.cpp).
+void s09aazn(double x, double& q, double& r);
 
 namespace {
 
@@ -16,10 +16,12 @@ constexpr double kPio2Lo = 6.123233995736766e-17;
 
 }  // namespace
 
-// abs(x) <= 1/2: the series. Above: with z = (1 - abs x)/2 and s = sqrt z,
-// asin(abs x) = pi/2 - 2 asin(s) = pi/2 - 2s - 2s z R(z). Near x = 1/2 the
-// two leading terms cancel by a factor 3, so s is carried as hi + lo (from the
-// exact remainder z - s^2) and pi/2 - 2s is formed exactly.
+// abs(x) <= 1/2: x + x^3/6 + x^5 S(x^2), the first two terms in
+// double-double. Above: with z = (1 - abs x)/2 and s = sqrt z,
+// asin(abs x) = pi/2 - 2 asin(s). Near x = 1/2 the leading terms cancel by a
+// factor 3, so s is carried as hi + lo (from the exact remainder z - s^2),
+// its low part entering as sl (1 + z/2), and pi/2 - 2s - s^3/3 is summed
+// exactly.
 double s09aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   const double a = std::fabs(x);
@@ -29,16 +31,21 @@ double s09aafn(double x, char* errbuf, int& ifail) {
     return 0.0;
   }
   zeb::errbuf_close(errbuf, 0, ifail);
+  double q = 0.0;
+  double r = 0.0;
   if (!(a > 0.5)) {
     // Also a NaN, which passes through.
-    const double u = x * x;
-    return x + x * (u * s09aazn(u));
+    s09aazn(x, q, r);
+    const zeb::dd::dd s = zeb::dd::fast_two_sum(x, q);
+    return s.hi + (s.lo + r);
   }
   const double z = 0.5 * (1.0 - a);  // exact for abs x in [1/2, 1]
   const double sh = std::sqrt(z);
   const zeb::dd::dd sq = zeb::dd::two_prod(sh, sh);
   const double sl = sh > 0.0 ? ((z - sq.hi) - sq.lo) / (2.0 * sh) : 0.0;
+  s09aazn(sh, q, r);
   const zeb::dd::dd h = zeb::dd::two_sum(kPio2Hi, -2.0 * sh);
-  const double lo = (h.lo + kPio2Lo) - 2.0 * (sl + sh * (z * s09aazn(z)));
-  return std::copysign(h.hi + lo, x);
+  const zeb::dd::dd h2 = zeb::dd::two_sum(h.hi, -2.0 * q);
+  const double lo = ((h.lo + h2.lo) + kPio2Lo) - 2.0 * (sl * (1.0 + 0.5 * z) + r);
+  return std::copysign(h2.hi + lo, x);
 }

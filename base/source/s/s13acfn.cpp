@@ -6,8 +6,8 @@
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
 
-// R(u) with atanh(x) = x + x^3 R(x^2), x^2 <= 1/2 (s11aazn.cpp).
-double s11aazn(double u);
+// atanh(x) - x = q + r for x^2 <= 1/2, q the rounded x^3/3 (s11aazn.cpp).
+void s11aazn(double x, double& q, double& r);
 
 // F(x) - 1 and G(x) - 1 for x >= 16, F(x) = x f(x), G(x) = x^2 g(x), f and g
 // the auxiliary functions (s13aczn.cpp).
@@ -376,8 +376,10 @@ double ci_near_x0(double x) {
   const zeb::dd::dd d = zeb::dd::two_sum(x - kX0Hi, -kX0Lo);  // x - kX0Hi exact
   const zeb::dd::dd p = zeb::dd::add(zeb::dd::two_sum(x, kX0Hi), kX0Lo);
   const zeb::dd::dd s = zeb::dd::div(d, p);
-  const double s2 = s.hi * s.hi;
-  const zeb::dd::dd l{2.0 * s.hi, 2.0 * (s.lo + s.hi * (s2 * s11aazn(s2)))};
+  double tq = 0.0;
+  double tr = 0.0;
+  s11aazn(s.hi, tq, tr);
+  const zeb::dd::dd l = zeb::dd::fast_two_sum(2.0 * s.hi, 2.0 * (s.lo + (tq + tr)));
   const zeb::dd::dd dp = zeb::dd::mul(d, p);
   const zeb::dd::dd q = zeb::dd::mul(dp, zeb::series::horner(x * x, kCinQ));
   return zeb::dd::sub(l, q).hi;
