@@ -1,6 +1,7 @@
 # A thin front for CMake. `make` builds, `make demo` runs the demo programs,
 # `make check` runs the whole test suite, `make install PREFIX=...` installs,
-# `make bench` builds and runs the benchmarks.
+# `make bench` builds and runs the benchmarks, `make accuracy-doc` rewrites
+# docs/accuracy.md from the accuracy tests.
 BUILD ?= build
 PREFIX ?= /usr/local
 JOBS ?= $(shell nproc)
@@ -9,7 +10,7 @@ BUILD_PKGS = g++ gfortran cmake ninja-build python3 pkg-config
 CHECK_PKGS = $(BUILD_PKGS) libgtest-dev
 BENCH_PKGS = $(BUILD_PKGS) libbenchmark-dev libgsl-dev libboost-math-dev
 
-.PHONY: all build demo check install bench clean deps-build deps-check deps-bench
+.PHONY: all build demo check install bench accuracy-doc clean deps-build deps-check deps-bench
 
 all: build
 
@@ -44,6 +45,9 @@ bench: deps-bench
 	cmake -S . -B $(BUILD) -G Ninja -DZEB_BENCH=ON
 	cmake --build $(BUILD) -j $(JOBS)
 	$(BUILD)/bench/bench_s15adf
+
+accuracy-doc: check
+	sh tools/accuracy-doc.sh $(BUILD)
 
 clean:
 	rm -rf $(BUILD)
