@@ -172,7 +172,7 @@ void sort_range(Seq& a, int m1, int m2, bool descending, bool consistent) {
       }
       const int small = sr - sl + 1;
       const int big = br - bl + 1;
-      const bool lopsided = big > 5 * small + 25;
+      const bool lopsided = big > 5LL * small + 25;
       if (small < qs_small) {
         if (big < qs_small) {
           if (sp == 0) break;
