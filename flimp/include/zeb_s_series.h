@@ -62,32 +62,55 @@ inline double horner2(double t, const double (&c)[N]) {
   return detail::chain2<N - 1>(s, c) + t * detail::chain2<N - 2>(s, c);
 }
 
-// The odd series x + x^3/k + x^5 S(x^2), for a small integer k (negative for
-// a minus sign) and kinv = 1/k rounded, less its first term: q + r with q the
-// rounded x^3/k and r the rest. x^3 is formed exactly but for a term of
-// 2^-106 of it, the remainder of the quotient x^3/k - q exactly, and only
-// x^5 S(x^2), a small part of the value, in double. The table S holds the
-// coefficients from the highest power.
-template <std::size_t N>
-inline void odd_tail(double x, double k, double kinv, const double (&S)[N], double& q,
-                     double& r) {
-  const dd::dd u = dd::two_prod(x, x);
-  const dd::dd c3 = dd::two_prod(x, u.hi);
-  const double c3l = c3.lo + x * u.lo;
-  q = c3.hi * kinv;
-  const dd::dd qk = dd::two_prod(q, k);
-  const double e = (((c3.hi - qk.hi) - qk.lo) + c3l) * kinv;
-  r = e + c3.hi * (u.hi * horner2(u.hi, S));
+// The odd series x + x^3/K + x^5 S(x^2), for K = +-3 or +-6, less its first
+// term: q + r with q the rounded x^3/K and r the rest. x^3 is formed exactly
+// but for a term of 2^-106 of it (Dekker's products, with the halves of x
+// split once), the remainder x^3/K - q exactly (q K = q + 2q, times 1 or 2,
+// is an error-free sum), and only x^5 S(x^2), a small part of the value, in
+// double. The table S holds the coefficients from the highest power.
+template <int K, std::size_t N>
+inline void odd_tail(double x, const double (&S)[N], double& q, double& r) {
+  static_assert(K == 3 || K == -3 || K == 6 || K == -6);
+  constexpr double kinv = 1.0 / K;
+  double xh, xl;
+  dd::split(x, xh, xl);
+  const double u = x * x;
+  const double ul = ((xh * xh - u) + 2.0 * xh * xl) + xl * xl;  // x^2 - u
+  const double c3 = x * u;
+  double uh, um;
+  dd::split(u, uh, um);
+  const double c3e = ((xh * uh - c3) + xh * um + xl * uh) + xl * um;  // x u - c3
+  const double c3l = c3e + x * ul;
+  q = c3 * kinv;
+  dd::dd qk = dd::two_sum(q, 2.0 * q);  // 3q exactly
+  if constexpr (K == 6 || K == -6) qk = {2.0 * qk.hi, 2.0 * qk.lo};
+  if constexpr (K < 0) qk = {-qk.hi, -qk.lo};
+  const double e = (((c3 - qk.hi) - qk.lo) + c3l) * kinv;
+  r = e + c3 * (u * horner2(u, S));
 }
 
 // The odd series itself, x + q + r with x + q summed exactly; |q| <= |x|.
-template <std::size_t N>
-inline double odd_series(double x, double k, double kinv, const double (&S)[N]) {
+template <int K, std::size_t N>
+inline double odd_series(double x, const double (&S)[N]) {
   double q = 0.0;
   double r = 0.0;
-  odd_tail(x, k, kinv, S, q, r);
+  odd_tail<K>(x, S, q, r);
   const dd::dd s = dd::fast_two_sum(x, q);
   return s.hi + (s.lo + r);
+}
+
+// The same odd series in plain double, for where speed counts more than the
+// last tenths of an ulp: x + x u (1/K + u S(u)), u = x^2, with 1/K carried as
+// its rounding kinv plus the exact remainder kinv 2^-54 (for K = +-3, +-6 the
+// remainder of 1/K is exactly that). Returns the tail x^3/K + x^5 S(x^2),
+// whose rounding touches the value through the ratio tail/value only.
+template <int K, std::size_t N>
+inline double odd_tail_plain(double x, const double (&S)[N]) {
+  static_assert(K == 3 || K == -3 || K == 6 || K == -6);
+  constexpr double kinv = 1.0 / K;
+  constexpr double kinv_lo = kinv * 0x1p-54;
+  const double u = x * x;
+  return x * (u * (kinv + (kinv_lo + u * horner2(u, S))));
 }
 
 // A piece of a piecewise series: the table holds

@@ -5,6 +5,7 @@
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
+#include "zeb_x_ib.h"
 
 namespace {
 
@@ -38,9 +39,6 @@ constexpr double kTanS[14] = {
 // ones leave (mpmath, 50 digits): 159 bits, enough that n pi/2 for the
 // multiples n below 2^43 that the argument limit allows is carried to far
 // below the spacing of the doubles near any of its residues.
-// 1/3 rounded; the remainder of the division it stands for is recovered.
-constexpr double kThird = 0.3333333333333333;
-
 constexpr double kPio2A = 1.5707963267948966;
 constexpr double kPio2B = 6.123233995736766e-17;
 constexpr double kPio2C = -1.4973849048591698e-33;
@@ -77,7 +75,8 @@ double s07aafn(double x, char* errbuf, int& ifail) {
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (!(ax <= 1.0e13)) return x;  // a NaN
-  if (x == 0.0) return x;         // keeps the sign of a zero
+  // Below x02ajf, tan x = x + x^3/3 rounds to x (and x^2 would underflow).
+  if (ax < x02ajfn()) return x;
   // The nearest integer to x 2/pi, below 2^43 in magnitude: adding and taking
   // away 1.5 2^52 rounds to an integer by the rounding of the addition.
   constexpr double kRound = 6755399441055744.0;
@@ -85,18 +84,12 @@ double s07aafn(double x, char* errbuf, int& ifail) {
   const dd r = n == 0.0 ? dd{x, 0.0} : reduce(x, n);
   const bool odd = (static_cast<long long>(n) & 1) != 0;
 
-  // r^3 = c3 + c3l exactly but for the rounding of a term of 2^-106 of it;
-  // r^3/3 = q + e with q rounded and e its remainder.
-  const dd u = zeb::dd::two_prod(r.hi, r.hi);
-  const dd c3 = zeb::dd::two_prod(r.hi, u.hi);
-  const double c3l = c3.lo + r.hi * u.lo;
-  const double q = c3.hi * kThird;
-  const dd q3 = zeb::dd::two_prod(q, 3.0);
-  const double e = (((c3.hi - q3.hi) - q3.lo) + c3l) * kThird;
-  const double t5 = c3.hi * (u.hi * zeb::series::horner2(u.hi, kTanS));
+  double q = 0.0;
+  double tr = 0.0;
+  zeb::series::odd_tail<3>(r.hi, kTanS, q, tr);  // tan(rh) - rh = q + tr
   const double t0 = r.hi + q;
   const dd s = zeb::dd::fast_two_sum(r.hi, q);
-  const dd t = zeb::dd::fast_two_sum(s.hi, s.lo + ((e + t5) + r.lo * (1.0 + t0 * t0)));
+  const dd t = zeb::dd::fast_two_sum(s.hi, s.lo + (tr + r.lo * (1.0 + t0 * t0)));
   if (!odd) return t.hi;
   // Within 1e-14 of an odd multiple of pi/2, relative to x, the value is
   // still the tangent, large and of the right sign, but reported.

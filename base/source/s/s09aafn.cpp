@@ -4,6 +4,7 @@
 #include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_x_ib.h"
 
 // asin(x) - x = q + r for abs(x) <= 1/2, q the rounded x^3/6 (s09aazn.cpp).
 void s09aazn(double x, double& q, double& r);
@@ -34,7 +35,9 @@ double s09aafn(double x, char* errbuf, int& ifail) {
   double q = 0.0;
   double r = 0.0;
   if (!(a > 0.5)) {
-    // Also a NaN, which passes through.
+    // Also a NaN, which passes through. Below x02ajf, asin x = x + x^3/6
+    // rounds to x (and x^2 would underflow).
+    if (a < x02ajfn()) return x;
     s09aazn(x, q, r);
     const zeb::dd::dd s = zeb::dd::fast_two_sum(x, q);
     return s.hi + (s.lo + r);

@@ -30,5 +30,5 @@ constexpr double kAsinS[12] = {
 // asin(x) - x = q + r for abs(x) <= 1/2: q the rounded x^3/6, r the rest,
 // good together to far below an ulp of asin(x).
 void s09aazn(double x, double& q, double& r) {
-  zeb::series::odd_tail(x, 6.0, 0.16666666666666666, kAsinS, q, r);
+  zeb::series::odd_tail<6>(x, kAsinS, q, r);
 }

@@ -4,6 +4,7 @@
 #include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_x_ib.h"
 
 // asin(x) - x = q + r for abs(x) <= 1/2, q the rounded x^3/6 (s09aazn.cpp).
 void s09aazn(double x, double& q, double& r);
@@ -34,6 +35,7 @@ double s09abfn(double x, char* errbuf, int& ifail) {
   double q = 0.0;
   double r = 0.0;
   if (!(a > 0.5)) {
+    if (a < x02ajfn()) return kPio2Hi + (kPio2Lo - x);  // x^3/6 is far below
     s09aazn(x, q, r);
     const zeb::dd::dd h = zeb::dd::two_sum(kPio2Hi, -x);
     const zeb::dd::dd h2 = zeb::dd::two_sum(h.hi, -q);

@@ -3,6 +3,7 @@
 
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
+#include "zeb_x_ib.h"
 
 namespace {
 
@@ -33,15 +34,16 @@ constexpr double kTanhS[15] = {
 
 }  // namespace
 
-// abs(x) <= 1: the series x - x^3/3 + x^5 S(x^2), the first two terms in
-// double-double. Above, up to 18.715, where
+// abs(x) <= 1: the series x - x^3/3 + x^5 S(x^2). Above, up to 18.715, where
 // tanh x rounds to 1: (e^2x - 1)/(e^2x + 1), written 1 - 2/(e^2x + 1) so that
 // the rounding of the exponential is damped by the small quotient. At and
 // above 18.715: the sign of x.
 double s10aafn(double x) {
   const double a = std::fabs(x);
   if (a <= 1.0) {
-    return zeb::series::odd_series(x, -3.0, -0.3333333333333333, kTanhS);
+    // Below x02ajf, tanh x = x - x^3/3 rounds to x (and x^2 would underflow).
+    if (a < x02ajfn()) return x;
+    return x + zeb::series::odd_tail_plain<-3>(x, kTanhS);
   }
   if (a < 18.715) {
     return std::copysign(1.0 - 2.0 / (std::exp(2.0 * a) + 1.0), x);

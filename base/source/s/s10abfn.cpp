@@ -4,6 +4,7 @@
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
+#include "zeb_x_ib.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ double sinh_exp(double a) {
 
 }  // namespace
 
-// abs(x) <= 1: x + x^3/6 + x^5 S(x^2), the first two terms in double-double.
+// abs(x) <= 1: x + x^3/6 + x^5 S(x^2).
 // Up to 708: (e^x - e^-x)/2. Beyond, the
 // failure, with sinh 708 of the sign of x.
 double s10abfn(double x, char* errbuf, int& ifail) {
@@ -46,6 +47,8 @@ double s10abfn(double x, char* errbuf, int& ifail) {
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (a > 1.0) return std::copysign(sinh_exp(a), x);
-  // Also a NaN, which passes through.
-  return zeb::series::odd_series(x, 6.0, 0.16666666666666666, kSinhS);
+  // Also a NaN, which passes through. Below x02ajf, sinh x = x + x^3/6
+  // rounds to x (and x^2 would underflow).
+  if (a < x02ajfn()) return x;
+  return x + zeb::series::odd_tail_plain<6>(x, kSinhS);
 }

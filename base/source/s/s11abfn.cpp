@@ -44,7 +44,7 @@ constexpr double kLn2Lo = 2.3190468138462996e-17;
 
 }  // namespace
 
-// abs(x) <= 1: x - x^3/6 + x^5 S(x^2), the first two terms in double-double.
+// abs(x) <= 1: x - x^3/6 + x^5 S(x^2).
 // Up to 1e9: ln(t), t = a + sqrt(1 + a^2),
 // a = abs x, with the rounding errors of a^2, of 1 + a^2, of the square root
 // and of the sum carried as the low part tl of t, which enters as
@@ -53,7 +53,9 @@ constexpr double kLn2Lo = 2.3190468138462996e-17;
 double s11abfn(double x) {
   const double a = std::fabs(x);
   if (a <= 1.0) {
-    return zeb::series::odd_series(x, -6.0, -0.16666666666666666, kAsinhS);
+    // Below x02ajf, asinh x = x - x^3/6 rounds to x (and x^2 would underflow).
+    if (a < x02ajfn()) return x;
+    return x + zeb::series::odd_tail_plain<-6>(x, kAsinhS);
   }
   double v;
   if (a <= 1.0e9) {
@@ -61,9 +63,11 @@ double s11abfn(double x) {
     const zeb::dd::dd w = zeb::dd::two_sum(1.0, p.hi);  // 1 + a^2 = w + p.lo
     const double s = std::sqrt(w.hi);
     const zeb::dd::dd s2 = zeb::dd::two_prod(s, s);
-    const double sl = (((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo)) / (2.0 * s);
+    // The square root's low part sl = ds / 2s and the sum's low part join in
+    // one quotient: (t.lo + sl) / t = (2s t.lo + ds) / (2s t).
+    const double ds = ((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo);
     const zeb::dd::dd t = zeb::dd::two_sum(a, s);
-    v = std::log(t.hi) + (t.lo + sl) / t.hi;
+    v = std::log(t.hi) + (2.0 * s * t.lo + ds) / (2.0 * s * t.hi);
   } else if (a <= x02alfn()) {
     const zeb::dd::dd l = zeb::dd::two_sum(std::log(a), kLn2Hi);
     v = l.hi + (l.lo + kLn2Lo);

@@ -33,9 +33,11 @@ double s11acfn(double x, char* errbuf, int& ifail) {
     const zeb::dd::dd w = zeb::dd::two_sum(p.hi, -1.0);  // x^2 - 1 = w + p.lo
     const double s = std::sqrt(w.hi);
     const zeb::dd::dd s2 = zeb::dd::two_prod(s, s);
-    const double sl = (((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo)) / (2.0 * s);
+    // The square root's low part sl = ds / 2s and the sum's low part join in
+    // one quotient: (t.lo + sl) / t = (2s t.lo + ds) / (2s t).
+    const double ds = ((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo);
     const zeb::dd::dd t = zeb::dd::two_sum(x, s);
-    return std::log(t.hi) + (t.lo + sl) / t.hi;
+    return std::log(t.hi) + (2.0 * s * t.lo + ds) / (2.0 * s * t.hi);
   }
   if (x <= x02alfn()) {
     const zeb::dd::dd l = zeb::dd::two_sum(std::log(x), kLn2Hi);

@@ -5,9 +5,10 @@
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
+#include "zeb_x_ib.h"
 
-// atanh(x) - x = q + r for x^2 <= 1/2, q the rounded x^3/3 (s11aazn.cpp).
-void s11aazn(double x, double& q, double& r);
+// atanh(x) - x for x^2 <= 1/2 (s11aazn.cpp).
+double s11aazn(double x);
 
 // F(x) - 1 and G(x) - 1 for x >= 16, F(x) = x f(x), G(x) = x^2 g(x), f and g
 // the auxiliary functions (s13aczn.cpp).
@@ -376,10 +377,7 @@ double ci_near_x0(double x) {
   const zeb::dd::dd d = zeb::dd::two_sum(x - kX0Hi, -kX0Lo);  // x - kX0Hi exact
   const zeb::dd::dd p = zeb::dd::add(zeb::dd::two_sum(x, kX0Hi), kX0Lo);
   const zeb::dd::dd s = zeb::dd::div(d, p);
-  double tq = 0.0;
-  double tr = 0.0;
-  s11aazn(s.hi, tq, tr);
-  const zeb::dd::dd l = zeb::dd::fast_two_sum(2.0 * s.hi, 2.0 * (s.lo + (tq + tr)));
+  const zeb::dd::dd l = zeb::dd::fast_two_sum(2.0 * s.hi, 2.0 * (s.lo + s11aazn(s.hi)));
   const zeb::dd::dd dp = zeb::dd::mul(d, p);
   const zeb::dd::dd q = zeb::dd::mul(dp, zeb::series::horner(x * x, kCinQ));
   return zeb::dd::sub(l, q).hi;
@@ -403,7 +401,9 @@ double s13acfn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_close(errbuf, 0, ifail);
   if (x >= 0.45 && x <= 0.85) return ci_near_x0(x);
   if (x < 1.0) {
-    const zeb::dd::dd u = zeb::dd::two_prod(x, x);
+    // Below x02ajf the terms in u are far below an ulp of ln x (and x^2
+    // would underflow).
+    const zeb::dd::dd u = x < x02ajfn() ? zeb::dd::dd{0.0, 0.0} : zeb::dd::two_prod(x, x);
     zeb::dd::dd s = zeb::dd::add(zeb::dd::log(x), zeb::dd::dd{kGammaHi, kGammaLo});
     s = zeb::dd::sub(s, zeb::dd::dd{0.25 * u.hi, 0.25 * u.lo});
     return zeb::dd::add(s, u.hi * u.hi * zeb::series::horner(u.hi, kCinS)).hi;

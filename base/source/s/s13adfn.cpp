@@ -3,6 +3,7 @@
 
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
+#include "zeb_x_ib.h"
 
 // F(x) - 1 and G(x) - 1 for x >= 16, F(x) = x f(x), G(x) = x^2 g(x), f and g
 // the auxiliary functions (s13aczn.cpp).
@@ -183,6 +184,8 @@ constexpr double kPio2Lo = 6.123233995736766e-17;
 double s13adfn(double x) {
   const double a = std::fabs(x);
   if (a <= 2.0) {
+    // Below x02ajf, Si(x) = x - x^3/18 rounds to x (and x^2 would underflow).
+    if (a < x02ajfn()) return x;
     const double u = x * x;
     return x + x * (u * zeb::series::horner(u, kSiP1));
   }
