@@ -16,10 +16,13 @@ and this script writes the text between them, with its provenance comment.
     fit_elem.py --write      replace the tables in the sources in place
 
 Method. Each series is a weighted minimax polynomial (Remez exchange on a
-Chebyshev grid of a few hundred points, 40 significant digits). Where the
-constant term is known (1/3 for tan, 1/6 for arcsin, ...), it is rounded to
-double first and the other coefficients are refitted around the rounded value,
-so that the rounding is absorbed. The cosine and sine integrals on [1, 16] are
+Chebyshev grid of a few hundred points, 40 significant digits). The leading
+coefficients are rounded to double one at a time, the others refitted around
+each rounded value, so that their rounding is absorbed. The odd functions
+(tan, arcsin, tanh, sinh, artanh, arsinh) are x + x^3/K + x^5 S(x^2) with
+K = 3, 6, -3 or -6, the bodies carrying 1/K exactly, in double-double (tan,
+arcsin) or as its rounding plus the exact remainder; only S is stored. The
+cosine and sine integrals on [1, 16] are
 cut into pieces in the variable t = x - c, with c a double (so t is exact);
 a piece that holds a zero of Ci has c at the zero rounded to double, and is
 fitted as Ci(x)/(x - x0) times (x - x0), which makes the result accurate
