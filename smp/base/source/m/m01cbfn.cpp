@@ -6,8 +6,9 @@
 #include "zeb_w_ib_aux.h"
 
 namespace {
-// Below this many elements the sort stays in the calling thread.
-constexpr int m01cbf_parallel_min = 20000;
+// Below this many elements the sort stays in the calling thread (as for
+// m01caf: where two threads gain whether waiting threads spin or sleep).
+constexpr int m01cbf_parallel_min = 10000;
 }  // namespace
 
 void m01cbfn(int* iv, int m1, int m2, std::string_view order, char* errbuf, int& ifail) {
