@@ -1,6 +1,7 @@
 // The algorithms of chapter m01, written once over the element type:
 //
-//   sort_range     Singleton's quicksort of a subrange, with the median of
+//   sort_range     Singleton's quicksort of a subrange (R. C. Singleton,
+//                  Algorithm 347, CACM 12 (1969) 185-187), with the median of
 //                  three, a Wichmann-Hill random pivot for ranges marked
 //                  unbalanced, and a closing insertion pass;
 //   merge_blocks   stable merge of two neighbouring sorted blocks through
@@ -48,6 +49,10 @@ namespace zeb::m01 {
 // 30307 and 30323 and multipliers 171, 172 and 170, each step done by
 // Schrage's method (m = a q + r) so that no product exceeds 32 bits. Seeds are
 // fixed, so a given array always costs the same work.
+// Moduli and multipliers as published in B. A. Wichmann and I. D. Hill,
+// Algorithm AS 183, Applied Statistics 31 (1982) 188-190; the factorisations
+// q = m div a, r = m mod a (177, 2; 176, 35; 178, 63) follow L. Schrage, ACM
+// TOMS 5 (1979) 132-138, and are exact integers.
 struct WichmannHill {
   int s1 = 15223, s2 = 17795, s3 = 28707;
 
