@@ -1,0 +1,54 @@
+// Private auxiliaries of chapter s: kernels that bodies share and that have no
+// public entry.
+#pragma once
+
+#include "zeb_dd.h"
+
+// erfcx(x) = exp(x^2) erfc(x) for -26.6 < x, with no checks (s15agzn.cpp):
+// the kernel of s15agfn and s15ddfn.
+double s15agzn(double x);
+
+// The auxiliary functions of the Fresnel integrals for a > 3 (s20aczn.cpp):
+// S(a) = 1/2 - f cos(pi a^2/2) - g sin(pi a^2/2) and
+// C(a) = 1/2 + f sin(pi a^2/2) - g cos(pi a^2/2).
+void s20aczn(double a, double& f, double& g);
+
+// sin(pi a^2/2) and cos(pi a^2/2) for 0 <= a <= 2^32, with a^2 carried
+// exactly so that the result is accurate for large a (s20acyn.cpp).
+void s20acyn(double a, double& s, double& c);
+
+// ---------------------------------------------------------------------------
+// Gamma-function kernels: scaled log gamma, polygamma, incomplete gamma and
+// the beta functions of the statistics chapters.
+
+// D(x) = ln gamma(x) - (x-1/2) ln x + x - (1/2) ln(2 pi), the correction to
+// Stirling's formula, as hi + lo: s14ahzn for 0 < x < 15 (s14ahzn.cpp),
+// s14ahyn, its asymptotic series, for x >= 10 (s14ahyn.cpp). No checks.
+zeb::dd::dd s14ahzn(double x);
+zeb::dd::dd s14ahyn(double x);
+
+// The polygamma kernel (s14aczn.cpp): ans(j) = (-1)^(k+1) psi^(k)(x)/k! for
+// the orders k = n .. n+m-1, order 0 being -psi(x) for kode 1 and
+// ln x - psi(x) for kode 2. Returns 0, or 5 (some orders underflow and are
+// 0), 6 (an order would overflow; ans all 0), 7 (n+m-1 is beyond the
+// integers). Needs x > 0, n >= 0, m >= 1.
+int s14aczn(double x, int n, int kode, int m, double* ans);
+// One order k of the kernel as the scaled value (m.hi + m.lo) 2^e
+// (s14acyn.cpp).
+void s14acyn(double x, int k, int kode, zeb::dd::dd& m, long long& e);
+
+// ln gamma(x + iy) for x >= 1/2, y >= 0, the principal branch (s14agzn.cpp).
+void s14agzn(double x, double y, double& re, double& im);
+// 1 - q and 1 + q, q = exp(2 pi i (x + iy)), for y >= 0, each with full
+// relative accuracy (s14agyn.cpp).
+void s14agyn(double x, double y, double& re, double& im, double& pre,
+             double& pim);
+// psi^(k)(x + iy) for x >= 1/2, y >= 0, 0 <= k <= 6 (s14afzn.cpp).
+void s14afzn(double x, double y, int k, double& re, double& im);
+
+// Temme's uniform expansion of the incomplete gamma functions for a >= 20,
+// 0.7 a <= x <= 1.4 a: the smaller tail, Q for x >= a, P for x < a
+// (s14bazn.cpp).
+double s14bazn(double a, double x, double tol);
+// mu - ln(1+mu) for mu > -1, as hi + lo (s14bayn.cpp).
+zeb::dd::dd s14bayn(double mu);
