@@ -11,9 +11,9 @@
 //           sqrt((2n+1)/2 (n-m)!/(n+m)!) P_n^m(x); for negative m this is
 //           (-1)^m times the value for |m|.
 //
-// Method. The starting value at n = mu = |M| is formed in double-double from
-// q = 1 - x^2 (with x^2 carried exactly, so that q keeps its digits near
-// x = +-1): P_mu^mu = (-1)^mu (2mu-1)!! q^(mu/2), P_mu^-mu = q^(mu/2)/(2mu)!!,
+// Method. The starting value at n = mu = |M| is formed from q = 1 - x^2
+// (with x^2 carried exactly, so that q keeps its digits near x = +-1):
+// P_mu^mu = (-1)^mu (2mu-1)!! q^(mu/2), P_mu^-mu = q^(mu/2)/(2mu)!!,
 // normalised: sqrt((2mu+1)/2 (2mu-1)!!/(2mu)!!) q^(mu/2), signed as above.
 // The degrees above follow by the three-term recurrence in n, stable upwards
 // on [-1, 1]:
@@ -30,54 +30,31 @@
 
 namespace {
 
-using zeb::dd::dd;
+using ext = long double;
 
-// sqrt(a) of a positive double-double, to about 100 bits.
-dd dd_sqrt(dd a) {
-  const double r = std::sqrt(a.hi);
-  const dd r2 = zeb::dd::two_prod(r, r);
-  const double c = ((a.hi - r2.hi) - r2.lo + a.lo) / (2.0 * r);
-  return zeb::dd::fast_two_sum(r, c);
-}
-
-// a^k for k >= 0 by repeated squaring.
-dd dd_pow(dd a, int k) {
-  dd r{1.0, 0.0};
-  while (k > 0) {
-    if (k & 1) r = zeb::dd::mul(r, a);
-    a = zeb::dd::mul(a, a);
-    k >>= 1;
-  }
-  return r;
-}
-
-// The value at the lowest degree n = mu, as described above.
-dd start_value(int mode, double x, int m) {
+// The value at the lowest degree n = mu, as described above, in the x87
+// extended format from q = 1 - x^2 formed exactly as (1 - h) - l, x^2 = h + l.
+ext start_value(int mode, double x, int m) {
   const int mu = m < 0 ? -m : m;
-  if (mu == 0) return mode == 1 ? dd{1.0, 0.0} : dd_sqrt(dd{0.5, 0.0});
-  // q = 1 - x^2 = (1 - h) - l with x^2 = h + l.
-  const dd x2 = zeb::dd::two_prod(x, x);
-  const dd q = zeb::dd::add(zeb::dd::two_sum(1.0, -x2.hi), -x2.lo);
-  if (q.hi <= 0.0) return dd{0.0, 0.0};
-  dd qp = dd_pow(q, mu / 2);
-  if (mu & 1) qp = zeb::dd::mul(qp, dd_sqrt(q));
-  dd c{1.0, 0.0};
+  if (mu == 0) return mode == 1 ? 1.0L : std::sqrt(0.5L);
+  const zeb::dd::dd x2 = zeb::dd::two_prod(x, x);
+  const zeb::dd::dd q = zeb::dd::add(zeb::dd::two_sum(1.0, -x2.hi), -x2.lo);
+  if (q.hi <= 0.0) return 0.0L;
+  const ext qe = static_cast<ext>(q.hi) + static_cast<ext>(q.lo);
+  ext v = (mu & 1) ? std::sqrt(qe) : 1.0L;
+  for (int k = 0; k < mu / 2; ++k) v *= qe;
   if (mode == 1) {
-    // (2mu-1)!! or 1/(2mu)!!, each factor an exact small integer.
-    for (int k = 1; k <= mu; ++k) c = zeb::dd::mul(c, static_cast<double>(m > 0 ? 2 * k - 1 : 2 * k));
-    if (m < 0) c = zeb::dd::recip(c);
+    // (2mu-1)!! or 1/(2mu)!!
+    ext c = 1.0L;
+    for (int k = 1; k <= mu; ++k) c *= static_cast<ext>(m > 0 ? 2 * k - 1 : 2 * k);
+    v = m > 0 ? v * c : v / c;
   } else {
-    // (2mu+1)/2 times the product of (2k-1)/(2k).
-    dd num{0.5 * (2 * mu + 1), 0.0};
-    dd den{1.0, 0.0};
-    for (int k = 1; k <= mu; ++k) {
-      num = zeb::dd::mul(num, static_cast<double>(2 * k - 1));
-      den = zeb::dd::mul(den, static_cast<double>(2 * k));
-    }
-    c = dd_sqrt(zeb::dd::div(num, den));
+    // sqrt((2mu+1)/2 times the product of (2k-1)/(2k))
+    ext c = 0.5L * (2 * mu + 1);
+    for (int k = 1; k <= mu; ++k) c *= static_cast<ext>(2 * k - 1) / static_cast<ext>(2 * k);
+    v *= std::sqrt(c);
   }
-  const dd v = zeb::dd::mul(c, qp);
-  return (m > 0 && (mu & 1)) ? zeb::dd::neg(v) : v;
+  return (m > 0 && (mu & 1)) ? -v : v;
 }
 
 }  // namespace
@@ -119,32 +96,36 @@ void s22aafn(int mode, double x, int m, int nl, double* p, char* errbuf, int& if
     return;
   }
 
-  dd p0 = start_value(mode, x, m);
-  p[0] = p0.hi + p0.lo;
+  // The recurrence runs in the x87 extended format (64-bit significand):
+  // its rounding errors, 2^-11 of a double's, stay well below half an ulp of
+  // each value after the final rounding, at a few times the cost of double.
+  ext p0 = start_value(mode, x, m);
+  p[0] = static_cast<double>(p0);
   if (nl >= 1) {
-    dd p1;
+    const ext xe = x;
+    ext p1;
     if (mode == 1) {
-      p1 = zeb::dd::mul(zeb::dd::mul(p0, x), m >= 0 ? 2.0 * mu + 1.0 : 1.0);
+      p1 = (m >= 0 ? static_cast<ext>(2 * mu + 1) : 1.0L) * xe * p0;
     } else {
-      p1 = zeb::dd::mul(zeb::dd::mul(p0, x), dd_sqrt(dd{2.0 * mu + 3.0, 0.0}));
+      p1 = std::sqrt(static_cast<ext>(2 * mu + 3)) * xe * p0;
     }
-    p[1] = p1.hi + p1.lo;
+    p[1] = static_cast<double>(p1);
     for (int l = 2; l <= nl; ++l) {
       const int n = mu + l;  // the degree computed now
-      dd pn;
+      ext pn;
       if (mode == 1) {
-        const dd t = zeb::dd::mul(zeb::dd::mul(p1, x), static_cast<double>(2 * n - 1));
-        const dd u = zeb::dd::mul(p0, static_cast<double>(n - 1 + m));
-        pn = zeb::dd::div(zeb::dd::sub(t, u), static_cast<double>(n - m));
+        // The reciprocal does not depend on the values, so it is formed off
+        // the chain of dependent operations.
+        const ext r = 1.0L / static_cast<ext>(n - m);
+        pn = (static_cast<ext>(2 * n - 1) * xe * p1 - static_cast<ext>(n - 1 + m) * p0) * r;
       } else {
-        const double nn = static_cast<double>(n) * n - static_cast<double>(mu) * mu;
-        const dd a = dd_sqrt(zeb::dd::div(dd{4.0 * n * n - 1.0, 0.0}, nn));
-        const dd b = dd_sqrt(zeb::dd::div(
-            dd{(2.0 * n + 1.0) * ((n - 1.0) * (n - 1.0) - 1.0 * mu * mu), 0.0},
-            (2.0 * n - 3.0) * nn));
-        pn = zeb::dd::sub(zeb::dd::mul(zeb::dd::mul(p1, x), a), zeb::dd::mul(p0, b));
+        const ext nn = static_cast<ext>(n) * n - static_cast<ext>(mu) * mu;
+        const ext a = std::sqrt((4.0L * n * n - 1.0L) / nn);
+        const ext b = std::sqrt((2.0L * n + 1.0L) * ((n - 1.0L) * (n - 1.0L) - 1.0L * mu * mu) /
+                                ((2.0L * n - 3.0L) * nn));
+        pn = a * xe * p1 - b * p0;
       }
-      p[l] = pn.hi + pn.lo;
+      p[l] = static_cast<double>(pn);
       p0 = p1;
       p1 = pn;
     }
