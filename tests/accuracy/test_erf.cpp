@@ -246,4 +246,32 @@ TEST(AccuracyErf, FaddeevaS15ddf) {
   }
 }
 
+// Arguments outside every table: NaN propagates without a failure, the
+// infinities give the limits, and the failures of erfcx and s22aaf take them.
+TEST(AccuracyErf, NonFiniteArguments) {
+  const double inf = INFINITY;
+  const double nan = std::nan("");
+  EXPECT_TRUE(std::isnan(s15affn(nan)));
+  EXPECT_TRUE(std::isnan(s20acfn(nan)));
+  EXPECT_TRUE(std::isnan(s20adfn(nan)));
+  EXPECT_EQ(s15affn(inf), 0.0);
+  EXPECT_EQ(s20acfn(-inf), -0.5);
+  EXPECT_EQ(s20adfn(inf), 0.5);
+  char errbuf[200];
+  int ifail = -7;
+  EXPECT_EQ(s15agfn(inf, errbuf, ifail), 0.0);
+  EXPECT_EQ(ifail, 2);
+  s15agfn(-inf, errbuf, ifail);
+  EXPECT_EQ(ifail, 1);
+  const std::complex<double> w = s15ddfn({inf, inf}, errbuf, ifail);
+  EXPECT_EQ(ifail, 0);
+  EXPECT_EQ(w, std::complex<double>(0.0, 0.0));
+  EXPECT_TRUE(std::isnan(s15ddfn({nan, 1.0}, errbuf, ifail).real()));
+  EXPECT_EQ(ifail, 0);
+  double p[3] = {-7.0, -7.0, -7.0};
+  s22aafn(1, nan, 0, 2, p, errbuf, ifail);
+  EXPECT_EQ(ifail, 3);
+  EXPECT_EQ(p[0], -7.0);
+}
+
 }  // namespace

@@ -15,11 +15,13 @@ program s_erf_fail
   complex(kind=wp), parameter :: zs(6) = (/ (1.0e8_wp, -1.0e8_wp), (1.0_wp, -30.0_wp), &
       (0.0_wp, -30.0_wp), (0.029088820866572_wp, -27.0_wp), (6900.0_wp, -6900.001_wp), &
       (1.0_wp, -1.0_wp) /)
-  integer, parameter :: modes(8) = (/ 0, 3, 1, 1, 2, 1, 1, 2 /)
-  real(kind=wp), parameter :: xl(8) = (/ 0.5_wp, 0.5_wp, -1.5_wp, 0.5_wp, 0.5_wp, &
-      0.5_wp, 0.5_wp, 0.5_wp /)
-  integer, parameter :: ms(8) = (/ 0, 0, 0, -28, 0, 0, 3, -20 /)
-  integer, parameter :: nls(8) = (/ 2, 2, 2, 2, -1, 101, -2, 36 /)
+  integer, parameter :: modes(9) = (/ 0, 3, 1, 1, 1, 2, 1, 1, 2 /)
+  real(kind=wp), parameter :: xl(9) = (/ 0.5_wp, 0.5_wp, -1.5_wp, 0.5_wp, 0.5_wp, &
+      0.5_wp, 0.5_wp, 0.5_wp, 0.5_wp /)
+  ! The fifth M is the most negative integer, whose absolute value the
+  ! message must still show.
+  integer, parameter :: ms(9) = (/ 0, 0, 0, -28, -huge(1) - 1, 0, 0, 3, -20 /)
+  integer, parameter :: nls(9) = (/ 2, 2, 2, 2, 2, -1, 101, -2, 36 /)
 
   do k = 1, size(xa)
     write (*, '(A,ES12.4)') ' --- s15agf at X =', xa(k)
@@ -46,8 +48,8 @@ program s_erf_fail
   write (*, '(A,F6.1,A,I3)') ' F unchanged:', f(1), ', IFAIL', ifail
 
   do k = 1, size(modes)
-    write (*, '(A,I3,A,F5.1,A,I4,A,I4)') ' --- s22aaf with MODE', modes(k), ', X', xl(k), &
-        ', M', ms(k), ', NL', nls(k)
+    write (*, '(A,I3,A,F5.1,A,I0,A,I0)') ' --- s22aaf with MODE', modes(k), ', X', xl(k), &
+        ', M ', ms(k), ', NL ', nls(k)
     p = -7.0_wp
     ifail = -1
     call s22aaf(modes(k), xl(k), ms(k), nls(k), p, ifail)

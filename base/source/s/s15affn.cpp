@@ -241,7 +241,7 @@ inline double asym_near(double u) {
 
 double s15affn(double x) {
   const double a = std::fabs(x);
-  if (a <= 3.1e-9) return x;
+  if (!(a > 3.1e-9)) return x;  // and a NaN
   if (a < 0.5) {
     const double v = x * x;
     return x + x * (v * small_q(v));

@@ -105,17 +105,18 @@ double sinc(double t) {
   return std::sin(t) / t;
 }
 
-// exp(-x^2) for x >= 0 with x^2 carried exactly.
+// exp(-x^2) for x >= 0 with x^2 carried exactly; where exp underflows to 0
+// (x^2 above 745), x may be too large for the exact square.
 double gauss(double x) {
-  if (x > 27.3) return 0.0;  // below the smallest subnormal number
+  if (std::exp(-x * x) == 0.0) return 0.0;
   const dd x2 = zeb::dd::two_prod(x, x);
   return exp_dd(zeb::dd::neg(x2));
 }
 
-// exp(-z^2) = exp(y^2 - x^2) (cos 2xy - i sin 2xy), for |x|, |y| below 1e150.
+// exp(-z^2) = exp(y^2 - x^2) (cos 2xy - i sin 2xy), for |x|, |y| below 1e150
+// (Dekker's product).
 std::complex<double> expmz2(double x, double y) {
   const dd t = zeb::dd::sub(zeb::dd::two_prod(y, y), zeb::dd::two_prod(x, x));
-  if (t.hi < -745.2) return {0.0, 0.0};
   const double e = exp_dd(t);
   double s, c;
   sincos_dd(zeb::dd::two_prod(2.0 * x, y), s, c);
@@ -237,6 +238,7 @@ std::complex<double> contfrac(double x, double y, double r) {
 
 // w(z) for x >= 0, y >= 0.
 std::complex<double> upper(double x, double y) {
+  if (std::isinf(x) || std::isinf(y)) return {0.0, 0.0};
   if (y == 0.0) return {gauss(x), kTwoOverSqrtPi * s15affn(x)};
   if (x == 0.0) return {s15agzn(y), 0.0};
   const double r = std::hypot(x, y);
@@ -284,8 +286,9 @@ std::complex<double> s15ddfn(std::complex<double> z, char* errbuf, int& ifail) {
   if (!(big > 2.0 * std::log(x02ajfn()))) {
     // The exponential term is below x02ajf^2: no failure can arise from it,
     // but near the real axis it may still carry the real part.
+    // exp(big) > 0 and |2xy| <= lim keep |x| and |y| in the range of expmz2.
     zeb::errbuf_close(errbuf, 0, ifail);
-    if (big > -745.2 && std::fabs(phase) <= lim) return 2.0 * expmz2(x, y) - wm;
+    if (std::fabs(phase) <= lim && std::exp(big) > 0.0) return 2.0 * expmz2(x, y) - wm;
     return -wm;
   }
   const double half = std::pow(1.0 / x02ajfn(), 0.75) > lim ? lim : std::sqrt(lim);
@@ -300,10 +303,10 @@ std::complex<double> s15ddfn(std::complex<double> z, char* errbuf, int& ifail) {
   const bool re_over = cph != 0.0 && big + kLn2 + std::log(std::fabs(cph)) > logmax;
   const bool im_over = sph != 0.0 && big + kLn2 + std::log(std::fabs(sph)) > logmax;
 
-  // The exponential term, accurately while exp(y^2 - x^2) is in range, else
-  // through logarithms part by part.
+  // The exponential term, accurately while 2 exp(y^2 - x^2) is in range,
+  // else through logarithms part by part.
   double er, ei;
-  if (big < 700.0) {
+  if (big + kLn2 < logmax) {
     const std::complex<double> e = expmz2(x, y);
     er = 2.0 * e.real();
     ei = 2.0 * e.imag();

@@ -62,7 +62,8 @@ ext start_value(int mode, double x, int m) {
 void s22aafn(int mode, double x, int m, int nl, double* p, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   constexpr const char* kInt = "(3(1X,I5),1X,I20)";
-  const int mu = m < 0 ? -m : m;
+  // |M| in 64 bits: the most negative M has no 32-bit absolute value.
+  const long long am = m < 0 ? -static_cast<long long>(m) : m;
   int code = 0;
   if (mode < 1) {
     zeb::errbuf_record(errbuf, kInt, {1, 99999, 1, mode});
@@ -73,28 +74,27 @@ void s22aafn(int mode, double x, int m, int nl, double* p, char* errbuf, int& if
   } else if (!(std::fabs(x) <= 1.0)) {
     zeb::errbuf_record(errbuf, "(3(1X,I5),1X,1P,E12.4)", {3, 99997, 1, std::fabs(x)});
     code = 3;
-  } else if (mu > 27) {
-    // |M| of the most negative integer is not representable: report it as
-    // the largest one.
-    zeb::errbuf_record(errbuf, kInt, {4, 99996, 1, m == -2147483647 - 1 ? 2147483647 : mu});
+  } else if (am > 27) {
+    zeb::errbuf_record(errbuf, kInt, {4, 99996, 1, am});
     code = 4;
-  } else if (mu == 0 && nl < 0) {
+  } else if (am == 0 && nl < 0) {
     zeb::errbuf_record(errbuf, kInt, {5, 99995, 1, nl});
     code = 5;
-  } else if (mu == 0 && nl > 100) {
+  } else if (am == 0 && nl > 100) {
     zeb::errbuf_record(errbuf, kInt, {6, 99994, 1, nl});
     code = 6;
-  } else if (mu != 0 && nl < 0) {
+  } else if (am != 0 && nl < 0) {
     zeb::errbuf_record(errbuf, kInt, {7, 99993, 1, nl});
     code = 7;
-  } else if (mu != 0 && nl > 55 - mu) {
-    zeb::errbuf_record(errbuf, "(3(1X,I5),2(1X,I20))", {8, 99992, 2, nl, mu});
+  } else if (am != 0 && nl > 55 - am) {
+    zeb::errbuf_record(errbuf, "(3(1X,I5),2(1X,I20))", {8, 99992, 2, nl, am});
     code = 8;
   }
   if (code != 0) {
     zeb::errbuf_close(errbuf, code, ifail);
     return;
   }
+  const int mu = static_cast<int>(am);
 
   // The recurrence runs in the x87 extended format (64-bit significand):
   // its rounding errors, 2^-11 of a double's, stay well below half an ulp of
