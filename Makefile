@@ -36,7 +36,7 @@ demo: build
 
 check: deps-check $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
-	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+	cd $(BUILD) && ctest --output-on-failure --timeout 600 -j $(JOBS)
 
 install: build
 	cmake --install $(BUILD) --prefix $(PREFIX)
