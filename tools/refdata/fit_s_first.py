@@ -11,10 +11,15 @@ provenance line. Usage:
 Method: weighted minimax (Remez exchange) at 50 digits. A rational p/q of
 degree (n, m) is normalised to q(0) = 1; the linearised reference system is
 iterated for the E*q term, and the reference moves to the extrema of the error
-on a Chebyshev grid. Every coefficient is stored as a pair hi + lo of doubles
-(the bodies evaluate by compensated Horner, so the pair is what they see), and
-the maximum error quoted is measured afresh on 20000 points, and on points
-crowding the ends, with the pairs as stored.
+on a Chebyshev grid. A coefficient is stored as a pair hi + lo of doubles
+where a body sums it by compensated Horner (the pair is what it sees), as that
+pair rounded to the 64-bit significand of the x87 extended format where a body
+sums in long double, and as one double where the series carries a small part
+of the value; the maximum error quoted is measured afresh on 20000 points, and
+on points crowding the ends, with the coefficients as the body sees them.
+
+The grids of exp(-Y^2) and exp(-k/64) of s15adzn (table "expgrid") are pairs
+{h, r} with exp = h (1 + r), from mpmath at 60 digits.
 """
 
 import sys
@@ -101,8 +106,15 @@ def split(c):
 
 
 def stored(c, pairs=True):
+    """The coefficient as the body sees it: the pair hi + lo (pairs True), hi
+    alone (False), or hi + lo rounded to the 64-bit significand of the x87
+    extended format ("ext")."""
     hi, lo = split(c)
-    return mp.mpf(hi) + (mp.mpf(lo) if pairs else 0)
+    v = mp.mpf(hi) + (mp.mpf(lo) if pairs else 0)
+    if pairs == "ext":
+        with mp.workprec(64):
+            v = +v
+    return v
 
 
 def measure(f, a, b, p, q, w=None, npts=20000, pairs=True):
@@ -164,8 +176,10 @@ def table(name, f, a, b, n, m, var, desc, order="desc", w=None, wdesc="relative"
     prov = (f"{desc}: minimax {kind} in {var} on [{mp.nstr(mp.mpf(a), 8)}, "
             f"{mp.nstr(mp.mpf(b), 8)}], fitted by tools/refdata/fit_s_first.py; "
             f"max {wdesc} error {mp.nstr(emax, 2)}"
-            + (" with the coefficients as stored" if pairs else
-               " with the coefficients rounded to double")
+            + {True: " with the coefficients as stored",
+               False: " with the coefficients rounded to double",
+               "ext": " with the pairs as stored rounded to the x87 extended"
+                      " format"}[pairs]
             + (". Coefficients from the constant term in u, which is the Horner "
                "order in 1/u" if order == "asc" else
                ". Coefficients from the highest power"))
@@ -215,10 +229,18 @@ def f_lg4(z):
 
 
 def f_erf(v):
+    # S(v) of erf(x) = (2/sqrt(pi)) (x - x^3/3 + x^5 S(x^2)), v = x^2; the
+    # cancellation of 1 - v/3 against the series wants v^2 more digits.
     if v == 0:
-        return 2 / SQRTPI
-    x = mp.sqrt(v)
-    return mp.erf(x) / x
+        return mp.mpf(1) / 10
+    with mp.workdps(130):
+        x = mp.sqrt(v)
+        return (mp.erf(x) * mp.sqrt(mp.pi) / (2 * x) - 1 + v / 3) / v ** 2
+
+
+def w_erf(v, s):
+    # Error of erf relative to itself: v^2 dS / (1 - v/3 + v^2 S).
+    return max(v, mp.mpf(10) ** -8) ** 2 / (1 - v / 3 + v * v * s)
 
 
 def f_erfcm(a):
@@ -308,6 +330,30 @@ def f_eif(u):
         return y * mp.exp(-y) * mp.ei(y)
 
 
+def exp_grid(name, kmax, arg, argtext, about):
+    """exp(-arg(k)), k = 0..kmax, as pairs {h, r}: h the double nearest to it
+    and r the double nearest to the relative remainder, value = h (1 + r)."""
+    rows, emax = [], mp.mpf(0)
+    with mp.workdps(60):
+        for k in range(kmax + 1):
+            v = mp.exp(-arg(k))
+            h = float(v)
+            r = float((v - h) / h)
+            emax = max(emax, abs(mp.mpf(h) * (1 + mp.mpf(r)) - v) / v)
+            rows.append(f"{{{h!r}, {r!r}}}")
+    what = (f"exp(-{argtext}) = h (1 + r) for k = 0..{kmax} ({about}), as pairs "
+            f"{{h, r}}: h the double nearest to the value and r the double "
+            f"nearest to the relative remainder, from mpmath at 60 digits by "
+            f"tools/refdata/fit_s_first.py; max relative error of h (1 + r) "
+            f"{mp.nstr(emax, 2)}.")
+    lines = ["// " + ln for ln in textwrap.wrap(what, 76)]
+    lines.append(f"constexpr double {name}[{kmax + 1}][2] = {{")
+    for i in range(0, len(rows), 2):
+        lines.append("    " + ", ".join(rows[i:i + 2]) + ",")
+    lines.append("};")
+    return "\n".join(lines)
+
+
 def run(name):
     one = mp.mpf(1)
     if name == "gamma":
@@ -321,15 +367,23 @@ def run(name):
             table("kLgamR4", f_lg4, 0, 8, 8, 8, "z", "(ln Gamma(4+z) - ln 6) / z"),
         ])
     if name == "erf":
-        return table("kErfS", f_erf, 0, mp.mpf("0.46875") ** 2, 4, 4, "v = x^2",
-                     "erf(x) / x")
+        return table("kErfS", f_erf, 0, mp.mpf("0.46875") ** 2, 3, 3, "v = x^2",
+                     "S(v) of erf(x) = (2/sqrt(pi)) (x - x^3/3 + x^5 S(x^2))",
+                     w=w_erf, wdesc="erf-relative", pairs=False)
     if name == "erfc":
         return "\n\n".join([
             table("kErfcM", f_erfcm, mp.mpf("0.46875"), 4, 8, 8, "A",
-                  "exp(A^2) erfc(A)"),
+                  "exp(A^2) erfc(A)", pairs="ext"),
             table("kErfcL", f_erfcl, 0, one / 16, 5, 5, "u = 1/A^2",
                   "R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u", w=w_erfcl,
-                  wdesc="erfc-relative"),
+                  wdesc="erfc-relative", pairs=False),
+        ])
+    if name == "expgrid":
+        return "\n\n".join([
+            exp_grid("kExpY", 425, lambda k: mp.mpf(k * k) / 256, "k^2/256",
+                     "Y = k/16, Y^2 exact"),
+            exp_grid("kExpD", 213, lambda k: mp.mpf(k) / 64, "k/64",
+                     "the nearest multiple of 1/64 to D = (A - Y)(A + Y) <= 3.325"),
         ])
     if name == "log1p":
         c = 3 - 2 * mp.sqrt(2)
@@ -363,7 +417,7 @@ def run(name):
     raise SystemExit(f"unknown table {name}")
 
 
-ALL = ["gamma", "lgamma", "erf", "erfc", "exp", "log1p", "e1", "ei"]
+ALL = ["gamma", "lgamma", "erf", "erfc", "expgrid", "exp", "log1p", "e1", "ei"]
 
 if __name__ == "__main__":
     for nm in sys.argv[1:] or ALL:
