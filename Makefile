@@ -44,7 +44,7 @@ install: build
 bench: deps-bench
 	cmake -S . -B $(BUILD) -G Ninja -DZEB_BENCH=ON
 	cmake --build $(BUILD) -j $(JOBS)
-	$(BUILD)/bench/bench_s15adf
+	for b in $(BUILD)/bench/bench_*; do echo "=== $$b"; $$b || exit 1; done
 
 accuracy-doc: check
 	sh tools/accuracy-doc.sh $(BUILD)
