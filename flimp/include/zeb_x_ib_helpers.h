@@ -4,6 +4,10 @@
 
 #include <string_view>
 
+// The shared argument checks of x03aafn and x03abfn: the code of the first
+// offence, with its record in ERRBUF, or 0.
+int x03aaxn(int n, int isizea, int isizeb, int istepa, int istepb, char* errbuf);
+
 // Adds the inner product of n elements a[0], a[inca], ... and b[0], b[incb],
 // ... (negated if `negate`) to the double-double hi + lo, with every product
 // and sum split exactly into its rounded value and its error, the errors

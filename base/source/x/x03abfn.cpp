@@ -13,24 +13,9 @@ void x03abfn(const std::complex<double>* a, int isizea,
   zeb::errbuf_clear(errbuf);
   d1 = 0.0;
   d2 = 0.0;
-  if (istepa < 1) {
-    zeb::errbuf_record(errbuf, "(3(1X,I5),1X,I20)", {1, 99999, 1, istepa});
-    zeb::errbuf_close(errbuf, 1, ifail);
-    return;
-  }
-  if (istepb < 1) {
-    zeb::errbuf_record(errbuf, "(3(1X,I5),1X,I20)", {1, 99998, 1, istepb});
-    zeb::errbuf_close(errbuf, 1, ifail);
-    return;
-  }
-  if (n >= 1 && static_cast<long long>(n - 1) * istepa + 1 > isizea) {
-    zeb::errbuf_record(errbuf, "(3(1X,I5),3(1X,I20))", {2, 99997, 3, isizea, istepa, n});
-    zeb::errbuf_close(errbuf, 2, ifail);
-    return;
-  }
-  if (n >= 1 && static_cast<long long>(n - 1) * istepb + 1 > isizeb) {
-    zeb::errbuf_record(errbuf, "(3(1X,I5),3(1X,I20))", {2, 99996, 3, isizeb, istepb, n});
-    zeb::errbuf_close(errbuf, 2, ifail);
+  const int code = x03aaxn(n, isizea, isizeb, istepa, istepb, errbuf);
+  if (code != 0) {
+    zeb::errbuf_close(errbuf, code, ifail);
     return;
   }
   // A complex array is an array of (real, imaginary) pairs of doubles.
