@@ -358,7 +358,7 @@ def run(name):
     one = mp.mpf(1)
     if name == "gamma":
         return table("kGammaT", f_gamma, -1, 1, 24, 0, "t = 2G-1",
-                     "Gamma(1+G), G = (t+1)/2")
+                     "Gamma(1+G), G = (t+1)/2", pairs="ext")
     if name == "lgamma":
         return "\n\n".join([
             table("kLgamR1", f_lg1, mp.mpf("-0.3203125"), 0.5, 7, 7, "z",

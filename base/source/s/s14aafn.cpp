@@ -1,23 +1,27 @@
 // Gamma function.
+//
+// The value is carried in the x87 extended format (long double on x86-64),
+// whose 64-bit significand keeps the roundings of the series and of the up to
+// 170 factors of the recurrence below 0.1 of the ulp of the double result, and
+// whose exponent range holds any partial product: the one conversion to
+// double at the end rounds the value once.
 #include <cmath>
 #include <cstddef>
-#include <iterator>
 
-#include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 
 namespace {
 
-namespace dd = zeb::dd;
+using ld = long double;
 
 // The series of Gamma(1 + G) for the 17-digit band, the band that x02bezn()
 // selects (16). No other band is carried: this one serves any band asked for,
 // as none would be more accurate. Its constant term is a pair like the rest.
 // Gamma(1+G), G = (t+1)/2: minimax polynomial of degree 24 in t = 2G-1 on
 // [-1.0, 1.0], fitted by tools/refdata/fit_s_first.py; max relative error
-// 1.1e-19 with the coefficients as stored. Coefficients from the highest
-// power.
+// 1.4e-19 with the pairs as stored rounded to the x87 extended format.
+// Coefficients from the highest power.
 constexpr double kGammaT[25][2] = {
     {5.17030384315125e-12, -1.4538357721984153e-28},
     {-1.461165042605115e-11, -1.5030414713365908e-27},
@@ -46,45 +50,65 @@ constexpr double kGammaT[25][2] = {
     {0.886226925452758, -3.8298852531805496e-17},
 };
 
+// The series as extended constants, formed at compile time.
+struct Series {
+  ld c[25];
+  constexpr Series() : c{} {
+    for (std::size_t i = 0; i < 25; ++i) c[i] = static_cast<ld>(kGammaT[i][0]) + kGammaT[i][1];
+  }
+};
+constexpr Series kG;
+
 // Value with the failures of a too large argument and of a pole.
 constexpr double kHuge = 4.3e304;
 
-// Product of the exact factors x + c for c = c0, c0 + 1, ..., c0 + n - 1, as
-// hi + lo, times 2^-64. Each partial product carries its rounding errors in a
-// second sum (compensated product); four of them run side by side, so that
-// their roundings do not wait on one another. Each stays below 170^43, and
-// the scaling keeps the whole within the range of Dekker's exact products.
-dd::dd product(double x, double c0, int n) {
-  double p[4] = {1.0, 1.0, 1.0, 1.0};
-  double e[4] = {0.0, 0.0, 0.0, 0.0};
-  double c = c0;
-  for (; n >= 4; n -= 4, c += 4.0) {
-    for (int j = 0; j < 4; ++j) {
-      const double a = x + (c + j);
-      const dd::dd t = dd::two_prod(p[j], a);
-      p[j] = t.hi;
-      e[j] = e[j] * a + t.lo;
-    }
+// The series at t by four Horner chains in t^4, each over the powers of one
+// residue mod 4, joined at the end: a quarter of the dependent steps.
+inline ld series(ld t) {
+  constexpr std::size_t n = 25;
+  const ld t2 = t * t;
+  const ld t4 = t2 * t2;
+  ld s[4];
+  for (std::size_t m = 0; m < 4; ++m) {
+    // c[i] multiplies t^(n-1-i); chain m holds the powers m, m+4, ..., from
+    // the highest.
+    std::size_t i = (n - 1 - m) % 4;
+    ld v = kG.c[i];
+    for (i += 4; i < n; i += 4) v = v * t4 + kG.c[i];
+    s[m] = v;
   }
-  for (; n > 0; --n, c += 1.0) {
-    const double a = x + c;
-    const dd::dd t = dd::two_prod(p[0], a);
-    p[0] = t.hi;
-    e[0] = e[0] * a + t.lo;
+  return (s[0] + t * s[1]) + t2 * (s[2] + t * s[3]);
+}
+
+// The product of g + i for i = a, a+1, ..., n-a (a >= 1), taken in pairs
+// (i, n - i), whose product is q + i (n - i) with q = g (g + n): half the
+// multiplications, each pair formed with one addition. Four products run side
+// by side; the middle factor g + n/2 stands alone when n is even.
+ld pairs(ld g, int a, int n) {
+  const ld q = g * (g + n);
+  ld p[4] = {1.0L, 1.0L, 1.0L, 1.0L};
+  int i = a;
+  for (; 2 * (i + 3) < n; i += 4) {
+    for (int m = 0; m < 4; ++m) p[m] *= q + (i + m) * (n - i - m);
   }
-  const dd::dd f01 = dd::mul(dd::fast_two_sum(p[0], e[0]), dd::fast_two_sum(p[1], e[1]));
-  const dd::dd f23 = dd::mul(dd::fast_two_sum(p[2], e[2]), dd::fast_two_sum(p[3], e[3]));
-  return dd::mul(f01, dd::dd{f23.hi * 0x1p-64, f23.lo * 0x1p-64});
+  for (; 2 * i < n; ++i) p[0] *= q + i * (n - i);
+  ld r = (p[0] * p[1]) * (p[2] * p[3]);
+  if (n % 2 == 0 && 2 * a <= n) r *= g + n / 2;
+  return r;
 }
 
 }  // namespace
 
 // Gamma(X) = P(2G - 1) * factor, where P is the series of Gamma(1 + G) for G
-// in [0, 1] and the factor walks X to 1 + G by the recurrence. P's last steps
-// are compensated, so that its rounding is near 2^-100 besides the fit's
-// 1.1e-19; the factor is a product of exact differences X - k or sums X + k,
-// carried as hi + lo through up to 170 roundings; the one rounding left is
-// the last.
+// in [0, 1] and the factor walks X to 1 + G by the recurrence:
+//   X >= 2:     (X - 1)(X - 2)...(X - N + 1), N = trunc(X), G = X - N: the
+//               factors G + j, in pairs (j, N - j) as G X + j(N - j);
+//   1 <= X < 2: 1;   0 < X < 1: 1/X;
+//   X < 0:      1/(X (X + 1)...(X + M - 1) G), M = 1 - trunc(X), G = X + M:
+//               the factors X + k = G - i, i = M - k, the one next to the
+//               pole, G - 1, exact by itself and the others in pairs
+//               (i, M + 2 - i) as G (X - 2) + i(M + 2 - i), which cannot
+//               cancel there.
 double s14aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   const double ax = std::fabs(x);
@@ -107,11 +131,11 @@ double s14aafn(double x, char* errbuf, int& ifail) {
     zeb::errbuf_close(errbuf, 0, ifail);
     return 1.0 / x;
   }
-  const double n = std::trunc(x);
+  const double tx = std::trunc(x);
   // A negative integer is X equal to its integer part. (The fractional part
   // G = X - (trunc(X) - 1) is 1 there, but it also rounds to 1 for
   // -1.1e-16 < X < -1e-17, which are no poles.)
-  if (x < 0.0 && x == n) {
+  if (x < 0.0 && x == tx) {
     zeb::errbuf_record(errbuf, "(3(1X,I5),1X,1P,E12.4)", {4, 99996, 1, x});
     zeb::errbuf_close(errbuf, 4, ifail);
     return kHuge;
@@ -119,46 +143,24 @@ double s14aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_close(errbuf, 0, ifail);
   if (!(ax <= 170.0)) return x;  // NaN
 
-  // G = g.hi + g.lo in [0, 1]: X - trunc(X) for X > 0, X - (trunc(X) - 1) for
-  // X < 0; exact but for -0.5 < X < 0, where 1 + X rounds.
-  const dd::dd g = x > 0.0 ? dd::dd{x - n, 0.0} : dd::two_sum(x, 1.0 - n);
-  // t = 2G - 1 = th + tl; th is exact but for 0 < X < 0.25 and -0.5 < X < 0.
-  const dd::dd t2 = dd::two_sum(2.0 * g.hi, -1.0);
-  const double th = t2.hi;
-  const double tl = t2.lo + 2.0 * g.lo;
+  // n = N or M, G in [0, 1] and t = 2G - 1, exact in the extended format
+  // (G = 1 + X for -2^-11 < X < 0 but for a last 2^-65).
+  const int n = static_cast<int>(x < 0.0 ? 1.0 - tx : tx);
+  const ld g = x < 0.0 ? x + static_cast<ld>(n) : static_cast<ld>(x - tx);
+  const ld pg = series(2.0L * g - 1.0L);
 
-  // P(th): the leading terms by plain Horner, the last six, which carry all
-  // but 2e-4 of the value, by compensated Horner; with the derivative, which
-  // carries tl.
-  constexpr std::size_t kPlain = std::size(kGammaT) - 6;
-  double s = kGammaT[0][0];
-  double ds = 0.0;
-  for (std::size_t i = 1; i < kPlain; ++i) {
-    ds = ds * th + s;
-    s = s * th + kGammaT[i][0];
+  ld r;
+  if (x >= 2.0) {
+    r = pg * pairs(g, 1, n);  // here n = N
+  } else if (x >= 1.0) {
+    r = pg;
+  } else if (x > 0.0) {
+    r = pg / x;
+  } else {
+    // X (X + 1)...(X + M - 1) = (-1)^M (1 - G) prod_{i=2..M} (i - G); here
+    // n = M, and 1 - G = -(X + M - 1) is exact in double, X itself for M = 1.
+    const ld d = -(x + (n - 1.0)) * pairs(-g, 2, n + 2) * g;
+    r = pg / (n % 2 == 0 ? d : -d);
   }
-  double e = 0.0;
-  for (std::size_t i = kPlain; i < std::size(kGammaT); ++i) {
-    ds = ds * th + s;
-    const dd::dd p = dd::two_prod(s, th);
-    const dd::dd u = dd::two_sum(p.hi, kGammaT[i][0]);
-    e = e * th + (p.lo + u.lo + kGammaT[i][1]);
-    s = u.hi;
-  }
-  const dd::dd pg = dd::two_sum(s, e + ds * tl);
-
-  if (x >= 1.0) {
-    // Gamma(X) = Gamma(1 + G) (X - 1)(X - 2)...(X - N + 1); each X - k is
-    // exact.
-    const dd::dd r = dd::mul(pg, product(x, -(n - 1.0), static_cast<int>(n) - 1));
-    return (r.hi + r.lo) * 0x1p64;
-  }
-  if (x > 0.0) {
-    const dd::dd r = dd::div(pg, dd::dd{x, 0.0});  // Gamma(X) = Gamma(1 + X) / X
-    return r.hi + r.lo;
-  }
-  // Gamma(X) = Gamma(1 + G) / (X (X + 1) ... (X + M)), M = 1 - trunc(X),
-  // where X + M = G. The sums X + k for k < M are exact.
-  const dd::dd r = dd::div(pg, dd::mul(product(x, 0.0, static_cast<int>(-n) + 1), g));
-  return (r.hi + r.lo) * 0x1p-64;
+  return static_cast<double>(r);
 }
