@@ -2,7 +2,7 @@
 """Derives the coefficient tables of the first special-function bodies.
 
 Run with /usr/bin/python3 (needs mpmath). Every table of
-base/source/s/{s14aafn,s14abfn,s15adzn,s15adyn,s15aezn,s13aafn,s13aazn,s01bafn}.cpp
+base/source/s/{s14aafn,s14abfn,s15adzn,s15adyn,s15aezn,s13aafn,s13aazn,s01bafn,s01bazn}.cpp
 is printed by this script as the C++ text that stands in the source, with its
 provenance line. Usage:
 
@@ -390,6 +390,11 @@ def run(name):
         return table("kLog1pT", f_log1p, 0, (c * mp.mpf("1.0001")) ** 2, 7, 0,
                      "w = s^2", "T(w) = (2 atanh(s) - 2s) / s^3", w=w_log1p,
                      wdesc="ln(1+f)-relative", pairs=False)
+    if name == "ln":
+        c = 3 - 2 * mp.sqrt(2)
+        return table("kLnT", f_log1p, 0, (c * mp.mpf("1.0001")) ** 2, 8, 0,
+                     "w = s^2", "T(w) = (2 atanh(s) - 2s) / s^3", w=w_log1p,
+                     wdesc="ln(1+f)-relative", pairs="ext")
     if name == "exp":
         return table("kExpP", f_exp, mp.mpf("-0.35"), mp.mpf("0.35"), 9, 0, "r",
                      "P(r) = (exp(r) - 1 - r - r^2/2) / r^3", w=w_exp,
@@ -417,7 +422,7 @@ def run(name):
     raise SystemExit(f"unknown table {name}")
 
 
-ALL = ["gamma", "lgamma", "erf", "erfc", "expgrid", "exp", "log1p", "e1", "ei"]
+ALL = ["gamma", "lgamma", "erf", "erfc", "expgrid", "exp", "log1p", "ln", "e1", "ei"]
 
 if __name__ == "__main__":
     for nm in sys.argv[1:] or ALL:

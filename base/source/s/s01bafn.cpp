@@ -1,12 +1,13 @@
 // ln(1 + x) for x > -1.
 #include <cmath>
-#include <cstddef>
-#include <iterator>
 
 #include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
+
+// ln(hi + lo) in the x87 extended format (s01bazn.cpp).
+long double s01bazn(double hi, double lo);
 
 namespace {
 
@@ -30,8 +31,10 @@ constexpr double kLog1pT[8] = {
 // The cut: t = X / ((2 + X)(3 - 2 sqrt2)), written with the constants of the
 // series' scaling. t^2 <= 1 is 1 + X between 1/sqrt2 and sqrt2: there
 // ln(1 + X) = 2 atanh(s), s = X/(2 + X) = (3 - 2 sqrt2) t, is the odd series
-// 2s + s^3 T(s^2), with s formed as hi + lo so that 2s, all but a hundredth of
-// the value, is exact. Outside, the logarithm of 1 + X carried as hi + lo.
+// 2s + s^3 T(s^2), summed in the x87 extended format (long double), whose
+// 64-bit significand carries the quotient and the sum to 2^-63; outside, the
+// logarithm of 1 + X carried as hi + lo, in the same format. Either is
+// rounded to double once.
 double s01bafn(double x, char* errbuf, int& ifail) {
   namespace dd = zeb::dd;
   zeb::errbuf_clear(errbuf);
@@ -46,13 +49,15 @@ double s01bafn(double x, char* errbuf, int& ifail) {
   if (std::fabs(x) < x02ajfn()) return x;
   const double t = 1.0074696667295095 * x / ((2.0 + x) * 0.1728544674517796);
   if (t * t <= 1.0) {
-    const dd::dd s = dd::div(dd::dd{x, 0.0}, dd::fast_two_sum(2.0, x));
-    const double w = s.hi * s.hi;
-    double p = kLog1pT[0];
-    for (std::size_t i = 1; i < std::size(kLog1pT); ++i) p = p * w + kLog1pT[i];
-    return 2.0 * s.hi + (2.0 * s.lo + s.hi * w * p);
+    const long double s = x / (2.0L + x);
+    const long double w = s * s;
+    const long double w2 = w * w;
+    const long double w4 = w2 * w2;
+    const long double p = ((kLog1pT[7] + w * kLog1pT[6]) + w2 * (kLog1pT[5] + w * kLog1pT[4])) +
+                          w4 * ((kLog1pT[3] + w * kLog1pT[2]) + w2 * (kLog1pT[1] + w * kLog1pT[0]));
+    return static_cast<double>(2.0L * s + s * (w * p));
   }
   if (!(x <= x02alfn())) return x;  // +Inf, and NaN, which fails every comparison
-  const dd::dd l = dd::log(dd::two_sum(1.0, x));
-  return l.hi + l.lo;
+  const dd::dd u = dd::two_sum(1.0, x);
+  return static_cast<double>(s01bazn(u.hi, u.lo));
 }
