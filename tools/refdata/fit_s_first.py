@@ -362,9 +362,11 @@ def run(name):
     if name == "lgamma":
         return "\n\n".join([
             table("kLgamR1", f_lg1, mp.mpf("-0.3203125"), 0.5, 7, 7, "z",
-                  "ln Gamma(1+z) / z"),
-            table("kLgamR2", f_lg2, -0.5, 2, 8, 8, "w", "ln Gamma(2+w) / w"),
-            table("kLgamR4", f_lg4, 0, 8, 8, 8, "z", "(ln Gamma(4+z) - ln 6) / z"),
+                  "ln Gamma(1+z) / z", pairs="ext"),
+            table("kLgamR2", f_lg2, -0.5, 2, 8, 8, "w", "ln Gamma(2+w) / w",
+                  pairs="ext"),
+            table("kLgamR4", f_lg4, 0, 8, 8, 8, "z", "(ln Gamma(4+z) - ln 6) / z",
+                  pairs="ext"),
         ])
     if name == "erf":
         return table("kErfS", f_erf, 0, mp.mpf("0.46875") ** 2, 3, 3, "v = x^2",

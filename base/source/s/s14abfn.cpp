@@ -1,22 +1,29 @@
 // ln Gamma(x) for x > 0.
+//
+// The value is carried in the x87 extended format (long double on x86-64) and
+// rounded to double once.
 #include <cstddef>
 #include <iterator>
 
-#include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
+// ln(hi + lo) in extended precision (s01bazn.cpp).
+long double s01bazn(double hi, double lo);
+
 namespace {
 
-namespace dd = zeb::dd;
+using ld = long double;
 
 // The rationals of the ranges up to 12, in the manner of Cody and Hillstrom.
-// Each carries the whole value but for an exact factor, and is summed by
-// compensated Horner so that its rounding stays near 2^-100.
+// Each carries the whole value but for an exact factor, and is summed in the
+// x87 extended format, whose 64-bit significand keeps its roundings near
+// 2^-62.
 // ln Gamma(1+z) / z: minimax rational of degree 7/7 in z on [-0.3203125, 0.5],
-// fitted by tools/refdata/fit_s_first.py; max relative error 5.0e-19 with the
-// coefficients as stored. Coefficients from the highest power. Numerator:
+// fitted by tools/refdata/fit_s_first.py; max relative error 6.3e-19 with the
+// pairs as stored rounded to the x87 extended format. Coefficients from the
+// highest power. Numerator:
 constexpr double kLgamR1_P[8][2] = {
     {0.0010393903074704237, 6.784386444459044e-20},
     {0.032902572469928434, 1.5459810251219846e-18},
@@ -40,8 +47,9 @@ constexpr double kLgamR1_Q[8][2] = {
 };
 
 // ln Gamma(2+w) / w: minimax rational of degree 8/8 in w on [-0.5, 2.0],
-// fitted by tools/refdata/fit_s_first.py; max relative error 3.5e-20 with the
-// coefficients as stored. Coefficients from the highest power. Numerator:
+// fitted by tools/refdata/fit_s_first.py; max relative error 6.5e-20 with the
+// pairs as stored rounded to the x87 extended format. Coefficients from the
+// highest power. Numerator:
 constexpr double kLgamR2_P[9][2] = {
     {5.66179721694385e-07, -2.1268126379757573e-23},
     {6.501581669936462e-05, 4.003430740705117e-21},
@@ -67,9 +75,9 @@ constexpr double kLgamR2_Q[9][2] = {
 };
 
 // (ln Gamma(4+z) - ln 6) / z: minimax rational of degree 8/8 in z on [0.0,
-// 8.0], fitted by tools/refdata/fit_s_first.py; max relative error 6.5e-20
-// with the coefficients as stored. Coefficients from the highest power.
-// Numerator:
+// 8.0], fitted by tools/refdata/fit_s_first.py; max relative error 8.5e-20
+// with the pairs as stored rounded to the x87 extended format. Coefficients
+// from the highest power. Numerator:
 constexpr double kLgamR4_P[9][2] = {
     {4.879884678384786e-10, -3.433379947678951e-26},
     {1.7080463883797296e-07, 2.3652131393315074e-24},
@@ -103,30 +111,42 @@ constexpr double kStirling[] = {
     0.08333333333333333,
 };
 
-// ln 6 and ln(2 pi)/2 as hi + lo (mpmath, 50 digits).
-constexpr dd::dd kLn6{1.791759469228055, 4.349979825096335e-17};
-constexpr dd::dd kHalfLn2Pi{0.9189385332046728, -3.8782941580672414e-17};
+// ln 6 and ln(2 pi)/2 (mpmath, 40 digits).
+constexpr ld kLn6 = 1.791759469228055000812477358380702272723L;
+constexpr ld kHalfLn2Pi = 0.9189385332046727417803297364056176398614L;
 
-// The polynomial c (pairs hi + lo, highest power first) at x by compensated
-// Horner: the rounding error of each step is carried in a second sum, so the
-// value is as if evaluated in twice the precision.
+// A table of pairs hi + lo as extended constants, formed at compile time.
 template <std::size_t N>
-dd::dd horner2(const double (&c)[N][2], double x) {
-  double s = c[0][0];
-  double e = c[0][1];
-  for (std::size_t i = 1; i < N; ++i) {
-    const dd::dd p = dd::two_prod(s, x);
-    const dd::dd u = dd::two_sum(p.hi, c[i][0]);
-    e = e * x + (p.lo + u.lo + c[i][1]);
-    s = u.hi;
+struct Ext {
+  ld c[N];
+  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
+    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
   }
-  return dd::two_sum(s, e);
-}
+};
+constexpr Ext kR1P(kLgamR1_P);
+constexpr Ext kR1Q(kLgamR1_Q);
+constexpr Ext kR2P(kLgamR2_P);
+constexpr Ext kR2Q(kLgamR2_Q);
+constexpr Ext kR4P(kLgamR4_P);
+constexpr Ext kR4Q(kLgamR4_Q);
 
-// z P(z)/Q(z) as hi + lo, for an exact z.
+// z P(z)/Q(z) for an exact z, P and Q each as two Horner chains in z^2 (of
+// the even and the odd powers) that run side by side with the other's.
 template <std::size_t N>
-dd::dd times_rational(double z, const double (&p)[N][2], const double (&q)[N][2]) {
-  return dd::mul(dd::div(horner2(p, z), horner2(q, z)), z);
+ld times_rational(double z, const Ext<N>& p, const Ext<N>& q) {
+  static_assert(N >= 2);
+  constexpr std::size_t k0 = (N - 1) % 2;  // the chain that ends with c[N-1]
+  const ld z2 = static_cast<ld>(z) * z;
+  ld p0 = p.c[k0], p1 = p.c[1 - k0], q0 = q.c[k0], q1 = q.c[1 - k0];
+  for (std::size_t i = k0 + 2; i < N; i += 2) {
+    p0 = p0 * z2 + p.c[i];
+    q0 = q0 * z2 + q.c[i];
+  }
+  for (std::size_t i = 3 - k0; i < N; i += 2) {
+    p1 = p1 * z2 + p.c[i];
+    q1 = q1 * z2 + q.c[i];
+  }
+  return z * ((p0 + z * p1) / (q0 + z * q1));
 }
 
 }  // namespace
@@ -146,33 +166,31 @@ double s14abfn(double x, char* errbuf, int& ifail) {
     }
     // ln Gamma(X) = -ln X - Euler X + ..., and Euler X is below 2e-18 of it.
     zeb::errbuf_close(errbuf, 0, ifail);
-    const dd::dd l = dd::log(x);
-    return -(l.hi + l.lo);
+    return static_cast<double>(-s01bazn(x, 0.0));
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (!(x <= 2.55e305)) return x;  // NaN
 
-  dd::dd r;
+  ld r;
   if (x <= 1.5) {
     if (x < 0.6796875) {
       // ln Gamma(X) = ln Gamma(1 + X) - ln X, with ln Gamma(1 + X) from the
       // first rational in X or, above 0.5, the second in X - 1 (exact).
-      const dd::dd v = x <= 0.5 ? times_rational(x, kLgamR1_P, kLgamR1_Q)
-                                : times_rational(x - 1.0, kLgamR2_P, kLgamR2_Q);
-      r = dd::sub(v, dd::log(x));
+      const ld v = x <= 0.5 ? times_rational(x, kR1P, kR1Q)
+                            : times_rational(x - 1.0, kR2P, kR2Q);
+      r = v - s01bazn(x, 0.0);
     } else {
       // The zero at 1 is the exact factor X - 1.
-      r = times_rational(x - 1.0, kLgamR1_P, kLgamR1_Q);
+      r = times_rational(x - 1.0, kR1P, kR1Q);
     }
   } else if (x <= 4.0) {
     // The zero at 2 is the exact factor X - 2.
-    r = times_rational(x - 2.0, kLgamR2_P, kLgamR2_Q);
+    r = times_rational(x - 2.0, kR2P, kR2Q);
   } else if (x <= 12.0) {
-    r = dd::add(kLn6, times_rational(x - 4.0, kLgamR4_P, kLgamR4_Q));
+    r = kLn6 + times_rational(x - 4.0, kR4P, kR4Q);
   } else {
-    // Stirling: X (ln X - 1) - ln(X)/2 + ln(2 pi)/2 + correction/X, the large
-    // terms as hi + lo. X enters the exact product scaled by 2^-64, which
-    // keeps it within the range of Dekker's splitting.
+    // Stirling: (X - 1/2) ln X - X + ln(2 pi)/2 + correction/X; the
+    // correction, below 4e-4 of the value, in double.
     double corr = 0.0;
     if (x <= 2.24e76) {
       const double u = 1.0 / (x * x);
@@ -180,10 +198,7 @@ double s14abfn(double x, char* errbuf, int& ifail) {
       for (std::size_t i = 1; i < std::size(kStirling); ++i) c = c * u + kStirling[i];
       corr = c / x;
     }
-    const dd::dd l = dd::log(x);
-    const dd::dd b = dd::mul(dd::add(l, -1.0), x * 0x1p-64);
-    r = dd::add(dd::dd{b.hi * 0x1p64, b.lo * 0x1p64}, dd::mul(l, -0.5));
-    r = dd::add(dd::add(r, kHalfLn2Pi), corr);
+    r = ((x - 0.5L) * s01bazn(x, 0.0) - x) + (kHalfLn2Pi + corr);
   }
-  return r.hi + r.lo;
+  return static_cast<double>(r);
 }
