@@ -219,6 +219,9 @@ TEST(BlockRule, CoversTheRangeInOrder) {
       EXPECT_EQ(next, n + 1);
     }
   }
+  int first = 0, last = 0;
+  w01aawn(4, 3, 2147483647, first, last);
+  EXPECT_EQ(last, 2147483647);
   EXPECT_EQ(w02aazn(12345), 12345.0);
   EXPECT_EQ(w02aazn((1LL << 53) + 1), 9007199254740994.0);
 }

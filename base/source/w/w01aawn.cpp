@@ -10,5 +10,6 @@ void w01aawn(int p, int t, int n, int& first, int& last) {
   const int base = n / p;
   const int rest = n % p;
   first = base * t + (rest < t ? rest : t) + 1;
-  last = first + (n + p - t - 1) / p - 1;
+  // In 64 bits: n + p would overflow for n within p of the largest integer.
+  last = first + static_cast<int>((static_cast<long long>(n) + p - t - 1) / p) - 1;
 }
