@@ -404,20 +404,21 @@ def run(name):
     if name == "e1":
         return "\n\n".join([
             table("kE1A", f_e1a, 0, 1, 13, 0, "x", "E1(x) + ln x", w=w_e1a,
-                  wdesc="E1-relative"),
-            table("kE1B", f_e1b, -1, 1, 24, 0, "t = 2x-3", "E1(x)"),
-            table("kE1C", f_e1c, -1, 1, 25, 0, "t = x-3", "E1(x)"),
+                  wdesc="E1-relative", pairs="ext"),
+            table("kE1B", f_e1b, -1, 1, 24, 0, "t = 2x-3", "E1(x)", pairs="ext"),
+            table("kE1C", f_e1c, -1, 1, 25, 0, "t = x-3", "E1(x)", pairs="ext"),
             table("kE1D", f_e1d, 0, one / 4, 9, 9, "u = 1/x",
-                  "x exp(x) E1(x)", order="asc"),
+                  "x exp(x) E1(x)", order="asc", pairs="ext"),
         ])
     if name == "ei":
         return "\n\n".join([
-            table("kEiA", f_eia, 0, 6, 9, 9, "y",
-                  "R(y) = (Ei(y) - ln(y/y0)) / (y - y0)"),
+            table("kEiA", lambda s: f_eia(3 * (s + 2) / 2), -2, 2, 9, 9,
+                  "s = 2y/3 - 2", "R(y) = (Ei(y) - ln(y/y0)) / (y - y0)",
+                  pairs="ext"),
             table("kEiB", f_eif, one / 12, one / 6, 9, 9, "u = 1/y",
-                  "y exp(-y) Ei(y)", order="asc"),
+                  "y exp(-y) Ei(y)", order="asc", pairs="ext"),
             table("kEiC", f_eif, one / 24, one / 12, 9, 9, "u = 1/y",
-                  "y exp(-y) Ei(y)", order="asc"),
+                  "y exp(-y) Ei(y)", order="asc", pairs="ext"),
             table("kEiD", f_eif, 1 / mp.mpf("708.4"), one / 24, 10, 10, "u = 1/y",
                   "y exp(-y) Ei(y)", order="asc"),
         ])

@@ -1,26 +1,24 @@
 // Exponential integral E1(x) for x > 0, and -Ei(-x) for x < 0.
-#include <cmath>
 #include <cstddef>
 
-#include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
-// -Ei(-x) for -708.3 <= x < 0 (s13aazn.cpp); 2^scale exp(x + xl) as hi + lo
-// (s15adyn.cpp).
+// -Ei(-x) for -708.3 <= x < 0 (s13aazn.cpp); exp(x) and ln(hi + lo) in the
+// x87 extended format (s15adyn.cpp, s01bazn.cpp).
 double s13aazn(double x);
-double s15adyn(double x, double xl, int scale, double& lo);
-// 2^-k (hi + lo) rounded once (s15adxn.cpp).
-double s15adxn(double hi, double lo, int k);
+long double s15adyn(double x);
+long double s01bazn(double hi, double lo);
 
 namespace {
 
-namespace dd = zeb::dd;
+using ld = long double;
 
 // E1(x) + ln x: minimax polynomial of degree 13 in x on [0.0, 1.0], fitted by
-// tools/refdata/fit_s_first.py; max E1-relative error 5.3e-21 with the
-// coefficients as stored. Coefficients from the highest power.
+// tools/refdata/fit_s_first.py; max E1-relative error 5.6e-20 with the pairs
+// as stored rounded to the x87 extended format. Coefficients from the highest
+// power.
 constexpr double kE1A[14][2] = {
     {7.624665367604512e-12, -3.6391464408169014e-28},
     {-1.5969950187478082e-10, -4.502294462306785e-27},
@@ -39,8 +37,9 @@ constexpr double kE1A[14][2] = {
 };
 
 // E1(x): minimax polynomial of degree 24 in t = 2x-3 on [-1.0, 1.0], fitted by
-// tools/refdata/fit_s_first.py; max relative error 5.2e-20 with the
-// coefficients as stored. Coefficients from the highest power.
+// tools/refdata/fit_s_first.py; max relative error 6.6e-20 with the pairs as
+// stored rounded to the x87 extended format. Coefficients from the highest
+// power.
 constexpr double kE1B[25][2] = {
     {2.6882645354199924e-13, 5.4618196628735956e-30},
     {-8.960883262543577e-13, 2.007887724379244e-29},
@@ -70,8 +69,9 @@ constexpr double kE1B[25][2] = {
 };
 
 // E1(x): minimax polynomial of degree 25 in t = x-3 on [-1.0, 1.0], fitted by
-// tools/refdata/fit_s_first.py; max relative error 6.0e-20 with the
-// coefficients as stored. Coefficients from the highest power.
+// tools/refdata/fit_s_first.py; max relative error 8.3e-20 with the pairs as
+// stored rounded to the x87 extended format. Coefficients from the highest
+// power.
 constexpr double kE1C[26][2] = {
     {-8.11378898345619e-14, -1.1501686047791178e-30},
     {2.9152473511034176e-13, 1.9078837229909099e-29},
@@ -102,9 +102,9 @@ constexpr double kE1C[26][2] = {
 };
 
 // x exp(x) E1(x): minimax rational of degree 9/9 in u = 1/x on [0.0, 0.25],
-// fitted by tools/refdata/fit_s_first.py; max relative error 1.4e-20 with the
-// coefficients as stored. Coefficients from the constant term in u, which is
-// the Horner order in 1/u. Numerator:
+// fitted by tools/refdata/fit_s_first.py; max relative error 3.6e-20 with the
+// pairs as stored rounded to the x87 extended format. Coefficients from the
+// constant term in u, which is the Horner order in 1/u. Numerator:
 constexpr double kE1D_P[10][2] = {
     {1.0, -1.3765191653248897e-20},
     {48.85570185750624, 2.930967249877496e-15},
@@ -131,25 +131,40 @@ constexpr double kE1D_Q[10][2] = {
     {7778.8982674185145, 4.415762875528796e-13},
 };
 
-// The polynomial c (pairs hi + lo, highest power first) at x by Horner's
-// rule, the last M steps compensated: the rounding error of each is carried
-// in a second sum, so that they are as if evaluated in twice the precision.
-// Where the coefficients fall off fast, the plain steps before them touch
-// only a small part of the value.
-template <std::size_t M, std::size_t N>
-dd::dd horner2(const double (&c)[N][2], double x) {
-  static_assert(M < N);
-  double s = c[0][0];
-  for (std::size_t i = 1; i < N - M; ++i) s = s * x + c[i][0];
-  double e = 0.0;
-  for (std::size_t i = N - M; i < N; ++i) {
-    const dd::dd p = dd::two_prod(s, x);
-    const dd::dd u = dd::two_sum(p.hi, c[i][0]);
-    e = e * x + (p.lo + u.lo + c[i][1]);
-    s = u.hi;
+// A table of pairs hi + lo as extended constants, formed at compile time.
+template <std::size_t N>
+struct Ext {
+  ld c[N];
+  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
+    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
   }
-  return dd::two_sum(s, e);
+};
+
+// The polynomial c (from the highest power) at t by K Horner chains in t^K,
+// chain m over the powers m, m + K, ..., joined at the end: 1/K of the
+// dependent steps.
+template <std::size_t K, std::size_t N>
+ld horner(const Ext<N>& c, ld t) {
+  static_assert(K >= 1 && N >= K);
+  ld tk = t;
+  for (std::size_t i = 1; i < K; ++i) tk *= t;
+  ld s[K];
+  for (std::size_t m = 0; m < K; ++m) {
+    std::size_t i = (N - 1 - m) % K;  // c[i] multiplies t^(N-1-i)
+    ld v = c.c[i];
+    for (i += K; i < N; i += K) v = v * tk + c.c[i];
+    s[m] = v;
+  }
+  ld v = s[K - 1];
+  for (std::size_t m = K - 1; m-- > 0;) v = v * t + s[m];
+  return v;
 }
+
+constexpr Ext kA(kE1A);
+constexpr Ext kB(kE1B);
+constexpr Ext kC(kE1C);
+constexpr Ext kDP(kE1D_P);
+constexpr Ext kDQ(kE1D_Q);
 
 }  // namespace
 
@@ -163,8 +178,9 @@ dd::dd horner2(const double (&c)[N][2], double x) {
 //                itself (numerator and denominator times x^9); the value is
 //                subnormal from 701.8 on;
 //   above 708.3: 0.
-// The series are summed with their last steps compensated (the rational
-// wholly), exp(-x) comes as hi + lo, and the one rounding is the last.
+// The series are summed in the x87 extended format (long double), whose
+// 64-bit significand keeps their roundings near 2^-62, exp(-x) comes in the
+// same format, and the one rounding to double is the last.
 double s13aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   if (x == 0.0) {
@@ -181,21 +197,15 @@ double s13aafn(double x, char* errbuf, int& ifail) {
   if (x < 0.0) return s13aazn(x);
   if (!(x <= 708.3)) return x > 708.3 ? 0.0 : x;  // x may be NaN
 
-  dd::dd r;
+  ld r;
   if (x <= 1.0) {
-    r = dd::sub(horner2<6>(kE1A, x), dd::log(x));
+    r = horner<2>(kA, x) - s01bazn(x, 0.0);
   } else if (x <= 2.0) {
-    r = horner2<8>(kE1B, 2.0 * x - 3.0);
+    r = horner<4>(kB, 2.0 * x - 3.0);
   } else if (x <= 4.0) {
-    r = horner2<8>(kE1C, x - 3.0);
+    r = horner<4>(kC, x - 3.0);
   } else {
-    // exp(-x) comes scaled by 2^64, so that the product is exact also where
-    // the value is subnormal, and is rounded once as it is scaled back.
-    const dd::dd g = dd::div(horner2<9>(kE1D_P, x), dd::mul(horner2<9>(kE1D_Q, x), x));
-    dd::dd e;
-    e.hi = s15adyn(-x, 0.0, 64, e.lo);
-    r = dd::mul(g, e);
-    return s15adxn(r.hi, r.lo, 64);
+    r = s15adyn(-x) * (horner<2>(kDP, x) / (horner<2>(kDQ, x) * x));
   }
-  return r.hi + r.lo;
+  return static_cast<double>(r);
 }

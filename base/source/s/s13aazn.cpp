@@ -1,52 +1,56 @@
 // -Ei(-x) for -708.3 <= x < 0, the real continuation of E1 to negative
-// arguments; s13aafn has screened the argument.
+// arguments; s13aafn has screened the argument. The value is carried in the
+// x87 extended format (long double on x86-64) and rounded to double once.
 #include <cstddef>
 
 #include "zeb_dd.h"
-#include "zeb_frame.h"
 #include "zeb_s_ib.h"
 
-// 2^scale exp(x + xl) as hi + lo (s15adyn.cpp).
-double s15adyn(double x, double xl, int scale, double& lo);
+// exp(x) and ln(hi + lo) in the x87 extended format (s15adyn.cpp,
+// s01bazn.cpp).
+long double s15adyn(double x);
+long double s01bazn(double hi, double lo);
 
 namespace {
 
 namespace dd = zeb::dd;
+using ld = long double;
 
-// R(y) = (Ei(y) - ln(y/y0)) / (y - y0): minimax rational of degree 9/9 in y on
-// [0.0, 6.0], fitted by tools/refdata/fit_s_first.py; max relative error
-// 2.9e-21 with the coefficients as stored. Coefficients from the highest
-// power. Numerator:
+// R(y) = (Ei(y) - ln(y/y0)) / (y - y0): minimax rational of degree 9/9 in s =
+// 2y/3 - 2 on [-2.0, 2.0], fitted by tools/refdata/fit_s_first.py; max
+// relative error 2.3e-19 with the pairs as stored rounded to the x87 extended
+// format. Coefficients from the highest power. Numerator:
 constexpr double kEiA_P[10][2] = {
-    {7.279351167728472e-13, -2.3144124012480363e-30},
-    {9.063498996171007e-11, 4.408345824922592e-27},
-    {-7.000868787718821e-10, -3.1560486268190296e-26},
-    {2.676116077221277e-07, -1.0133422110296743e-23},
-    {-4.862620175067243e-06, -1.9284960191235607e-22},
-    {0.00018905754908345632, -1.3531967045864161e-20},
-    {-0.002203578205082342, 1.149690261189675e-19},
-    {0.03430736123647085, 3.2959956852240725e-18},
-    {-0.18244614227046482, -5.987743314280455e-18},
-    {1.1014081059037335, -8.109038760896372e-17},
+    {1.0222106921552354e-10, -1.9857525222822776e-27},
+    {1.0324989671257154e-08, -6.552365954353912e-25},
+    {1.0678646720097035e-07, -5.770371619252766e-24},
+    {1.1542014457451755e-05, 6.519818207289568e-22},
+    {-9.280809877780938e-07, -4.58929270742354e-24},
+    {0.002813059823009518, 1.735675334942693e-20},
+    {-0.00281970896709096, 1.983837048948032e-19},
+    {0.19474338954050247, -1.6743422644792255e-18},
+    {-0.09457931555789459, -3.1817118864003466e-18},
+    {2.986772243435986, 1.412945128796497e-16},
 };
 // Denominator:
 constexpr double kEiA_Q[10][2] = {
-    {-4.569695921276601e-12, 1.7220395540998796e-28},
-    {6.173104123251682e-10, 4.4746887481189824e-26},
-    {-3.8998973292901755e-08, -5.807751573484145e-26},
-    {1.5106944527149335e-06, -2.1792350688325125e-23},
-    {-3.949639567516382e-05, 1.8347942131877176e-21},
-    {0.0007218369806874698, 2.551380218116006e-21},
-    {-0.009209789860269968, 4.0463590111009473e-20},
-    {0.07899766617208127, -1.2883934165571276e-18},
-    {-0.4128145142468199, -8.74336092730553e-18},
+    {-6.417044490635227e-10, 4.5599319337852927e-26},
+    {4.624030424295505e-08, -2.1602793762151967e-24},
+    {-1.6017375299861237e-06, -5.338163556960744e-23},
+    {3.48220945779384e-05, 2.6165796304986374e-21},
+    {-0.0005211496952448268, 5.182727643447477e-20},
+    {0.0055447564346282445, -2.6130007584200273e-19},
+    {-0.04178140814028562, -1.5113389270537848e-19},
+    {0.21429273133771945, -7.883513798356906e-18},
+    {-0.6767717550316676, 3.774267503532323e-17},
     {1.0, 0.0},
 };
 
 // y exp(-y) Ei(y): minimax rational of degree 9/9 in u = 1/y on [0.083333333,
 // 0.16666667], fitted by tools/refdata/fit_s_first.py; max relative error
-// 6.1e-20 with the coefficients as stored. Coefficients from the constant term
-// in u, which is the Horner order in 1/u. Numerator:
+// 7.0e-20 with the pairs as stored rounded to the x87 extended format.
+// Coefficients from the constant term in u, which is the Horner order in 1/u.
+// Numerator:
 constexpr double kEiB_P[10][2] = {
     {0.9981193759279059, 5.453265979247677e-17},
     {-11.356881756975874, 5.087214999651968e-16},
@@ -75,8 +79,9 @@ constexpr double kEiB_Q[10][2] = {
 
 // y exp(-y) Ei(y): minimax rational of degree 9/9 in u = 1/y on [0.041666667,
 // 0.083333333], fitted by tools/refdata/fit_s_first.py; max relative error
-// 6.0e-20 with the coefficients as stored. Coefficients from the constant term
-// in u, which is the Horner order in 1/u. Numerator:
+// 2.0e-19 with the pairs as stored rounded to the x87 extended format.
+// Coefficients from the constant term in u, which is the Horner order in 1/u.
+// Numerator:
 constexpr double kEiC_P[10][2] = {
     {0.9999933106254195, 1.220038598924617e-17},
     {-34.82477636838146, 3.0219551864483147e-15},
@@ -135,18 +140,57 @@ constexpr double kEiD_Q[11][2] = {
     {4743474948.703932, 3.08157387400553e-07},
 };
 
-// The zero of Ei, y0 = kY0[0] + kY0[1] + kY0[2], and ln y0 as hi + lo
-// (mpmath's findroot at 140 digits). The third part matters: at the double
-// nearest y0, y - y0 is -(kY0[1] + kY0[2]) and Ei there is 5e-17.
+// The zero of Ei, y0 = kY0[0] + kY0[1] + kY0[2] (mpmath's findroot at 140
+// digits), and y0 and ln y0 to 64 bits (mpmath, 40 digits). The third part
+// matters: at the double nearest y0, y - y0 is -(kY0[1] + kY0[2]) and Ei
+// there is 5e-17.
 constexpr double kY0[3] = {0.3725074107813666, 1.3140183414386028e-17,
                            6.4725688445954145e-34};
-constexpr dd::dd kLnY0{-0.9874983466453419, 1.0504707614307875e-17};
+constexpr ld kY0x = 0.3725074107813666344619918665801191335357L;
+constexpr ld kLnY0 = -0.9874983466453418518440360746184590467542L;
+
+// A table of pairs hi + lo as extended constants, formed at compile time.
+template <std::size_t N>
+struct Ext {
+  ld c[N];
+  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
+    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
+  }
+};
+constexpr Ext kAP(kEiA_P);
+constexpr Ext kAQ(kEiA_Q);
+constexpr Ext kBP(kEiB_P);
+constexpr Ext kBQ(kEiB_Q);
+constexpr Ext kCP(kEiC_P);
+constexpr Ext kCQ(kEiC_Q);
+
+// p(y)/q(y) for tables from the highest power, of one length, each as two
+// Horner chains in y^2 (of the even and the odd powers) that run side by side
+// with the other's.
+template <std::size_t N>
+ld rational(const Ext<N>& p, const Ext<N>& q, ld y) {
+  static_assert(N >= 2);
+  constexpr std::size_t k0 = (N - 1) % 2;  // the chain that ends with c[N-1]
+  const ld y2 = y * y;
+  ld p0 = p.c[k0], p1 = p.c[1 - k0], q0 = q.c[k0], q1 = q.c[1 - k0];
+  for (std::size_t i = k0 + 2; i < N; i += 2) {
+    p0 = p0 * y2 + p.c[i];
+    q0 = q0 * y2 + q.c[i];
+  }
+  for (std::size_t i = 3 - k0; i < N; i += 2) {
+    p1 = p1 * y2 + p.c[i];
+    q1 = q1 * y2 + q.c[i];
+  }
+  return (p0 + y * p1) / (q0 + y * q1);
+}
 
 // The polynomial c (pairs hi + lo, highest power first) at x by compensated
 // Horner: the rounding error of each step is carried in a second sum, so the
-// value is as if evaluated in twice the precision.
+// value is as if evaluated in twice the precision. For the rational of the
+// last range, whose numerator and denominator cancel by a factor 1e4 as
+// polynomials in y.
 template <std::size_t N>
-dd::dd horner2(const double (&c)[N][2], double x) {
+dd::dd comp_horner(const double (&c)[N][2], double x) {
   double s = c[0][0];
   double e = c[0][1];
   for (std::size_t i = 1; i < N; ++i) {
@@ -161,48 +205,43 @@ dd::dd horner2(const double (&c)[N][2], double x) {
 }  // namespace
 
 // With y = -x:
-//   0 < y < 6:   Ei(y) = ln(y/y0) + (y - y0) R(y), R a rational in y (the
-//                affine image of -2x/3 - 2). Near the zero y0 the logarithm
-//                is ln(1 + v), v = (y - y0)/y0, by s01bafn, so that both
-//                terms keep their relative accuracy as y - y0 vanishes;
-//                elsewhere ln y - ln y0 as hi + lo.
+//   0 < y < 6:   Ei(y) = ln(y/y0) + (y - y0) R(y), R a rational in
+//                s = -2x/3 - 2 = 2y/3 - 2. y - y0 is exact in the extended
+//                format but for the third part of y0; near the zero y0 the
+//                logarithm is ln(1 + v), v = (y - y0)/y0, by s01bazn on
+//                1 + v as hi + lo, so that both terms keep their relative
+//                accuracy as y - y0 vanishes; elsewhere ln y - ln y0.
 //   6 <= y:      Ei(y) = exp(y)/y F(y), F = y exp(-y) Ei(y) a rational in 1/y
 //                on [6, 12), [12, 24) and [24, 708.3], evaluated in y
-//                (numerator and denominator times a power of y).
+//                (numerator and denominator times a power of y), the last by
+//                compensated Horner.
 double s13aazn(double x) {
   const double y = -x;
-  dd::dd r;
+  ld r;
   if (y < 6.0) {
-    // d = y - y0 as hi + lo.
-    const dd::dd d1 = dd::two_sum(y, -kY0[0]);
-    const dd::dd d2 = dd::two_sum(d1.hi, -kY0[1]);
-    const dd::dd d = dd::fast_two_sum(d2.hi, d2.lo + d1.lo - kY0[2]);
-    dd::dd l;
+    const ld d = ((static_cast<ld>(y) - kY0[0]) - kY0[1]) - kY0[2];
+    ld l;
     if (y >= 0.5 * kY0[0] && y <= 1.5 * kY0[0]) {
-      // ln(1 + v.hi + v.lo) = ln(1 + v.hi) + v.lo/(1 + v.hi).
-      const dd::dd v = dd::div(d, dd::dd{kY0[0], kY0[1]});
-      char buf[zeb::errbuf_len];
-      int code = 0;
-      l = dd::fast_two_sum(s01bafn(v.hi, buf, code), v.lo / (1.0 + v.hi));
+      const ld v = d / kY0x;
+      const double vh = static_cast<double>(v);
+      const dd::dd u = dd::two_sum(1.0, vh);
+      l = s01bazn(u.hi, u.lo + static_cast<double>(v - vh));
     } else {
-      l = dd::sub(dd::log(y), kLnY0);
+      l = s01bazn(y, 0.0) - kLnY0;
     }
-    const dd::dd q = dd::div(horner2(kEiA_P, y), horner2(kEiA_Q, y));
-    r = dd::add(l, dd::mul(q, d));
+    r = l + d * rational(kAP, kAQ, y * (2.0L / 3) - 2.0L);
   } else {
-    dd::dd f;
+    ld f;
     if (y < 12.0) {
-      f = dd::div(horner2(kEiB_P, y), horner2(kEiB_Q, y));
+      f = rational(kBP, kBQ, y);
     } else if (y < 24.0) {
-      f = dd::div(horner2(kEiC_P, y), horner2(kEiC_Q, y));
+      f = rational(kCP, kCQ, y);
     } else {
-      f = dd::div(horner2(kEiD_P, y), horner2(kEiD_Q, y));
+      const dd::dd p = comp_horner(kEiD_P, y);
+      const dd::dd q = comp_horner(kEiD_Q, y);
+      f = (p.hi + static_cast<ld>(p.lo)) / (q.hi + static_cast<ld>(q.lo));
     }
-    // exp(y) as hi + lo, scaled by 2^-64 into the range of exact products.
-    dd::dd e;
-    e.hi = s15adyn(y, 0.0, -64, e.lo);
-    r = dd::mul(dd::div(f, y), e);
-    return -(r.hi + r.lo) * 0x1p64;
+    r = f / y * s15adyn(y);
   }
-  return -(r.hi + r.lo);
+  return static_cast<double>(-r);
 }

@@ -1,14 +1,10 @@
-// 2^scale exp(x + xl) as hi + lo, to about 2^-62 relative, for |x| <= 708.4,
-// |xl| <= 2^-40 |x| and a value in the normal range: the exponential of the
-// erfc kernel's split, and of the exponential integrals, where a rounded exp
-// would add its half ulp to theirs. The power of two lets a caller keep the
-// value within the range of exact products.
+// exp(x) in the x87 extended format (long double on x86-64), to about 2^-62
+// relative, for |x| <= 708.4: the exponential of E1 and Ei, where a rounded
+// exp would add its half ulp to theirs. The format's exponent range holds the
+// value wherever it falls.
 #include <bit>
-#include <cstddef>
 #include <cstdint>
-#include <iterator>
 
-#include "zeb_dd.h"
 #include "zeb_s_ib.h"
 
 namespace {
@@ -30,29 +26,29 @@ constexpr double kExpP[10] = {
     0.16666666666666682,
 };
 
+// ln 2 = kLn2Hi + kLn2Lo: kLn2Hi has 42 significant bits, so that k kLn2Hi is
+// exact for |k| < 2^11; kLn2Lo is the rest to 64 bits (mpmath, 40 digits).
+constexpr double kLn2Hi = 0x1.62e42fefa3800p-1;
+constexpr long double kLn2Lo = 5.4979230187083711747124716125134360255e-14L;
+
 }  // namespace
 
-// x + xl = k ln2 + r, |r| <= ln2/2, with k ln2_hi exact and x - k ln2_hi exact
-// (the two are within a factor 2 unless k is 0); then
-// exp(r) = 1 + r + r^2/2 + r^3 P(r), the first three terms as hi + lo and the
-// last, below 0.8% of the value, in double.
-double s15adyn(double x, double xl, int scale, double& lo) {
-  namespace dd = zeb::dd;
+// x = k ln2 + r, |r| <= ln2/2: x - k kLn2Hi is exact in double (the two are
+// within a factor 2 unless k is 0) and r takes k kLn2Lo in the extended
+// format; exp(r) = 1 + r + r^2/2 + r^3 P(r), P in Estrin's form, and 2^k
+// scales exactly.
+long double s15adyn(double x) {
+  using ld = long double;
   // x/ln2 rounded to an integer by the addition of 1.5 2^52.
   const double k = (x * 1.4426950408889634 + 0x1.8p52) - 0x1.8p52;
-  const dd::dd r0 = dd::two_sum(x - k * dd::ln2_hi, xl - k * dd::ln2_lo);
-  const double r = r0.hi;
-  const double rl = r0.lo;
-  double p = kExpP[0];
-  for (std::size_t i = 1; i < std::size(kExpP); ++i) p = p * r + kExpP[i];
-  dd::dd r2 = dd::two_prod(r, r);
-  r2.lo += 2.0 * r * rl;
-  dd::dd e = dd::add(dd::two_sum(1.0, r), rl);
-  e = dd::add(e, dd::dd{0.5 * r2.hi, 0.5 * r2.lo});
-  e = dd::add(e, r * r2.hi * p);
-  // 2^(k + scale), built from its exponent field: the value is normal.
-  const double two_k = std::bit_cast<double>(
-      static_cast<std::uint64_t>(static_cast<int>(k) + scale + 1023) << 52);
-  lo = e.lo * two_k;
-  return e.hi * two_k;
+  const ld r = (x - k * kLn2Hi) - k * kLn2Lo;
+  const ld r2 = r * r;
+  const ld r4 = r2 * r2;
+  const ld r8 = r4 * r4;
+  const double* c = kExpP;
+  const ld p = ((c[9] + r * c[8]) + r2 * (c[7] + r * c[6])) +
+               r4 * ((c[5] + r * c[4]) + r2 * (c[3] + r * c[2])) + r8 * (c[1] + r * c[0]);
+  const ld e = (1.0L + r) + r2 * (0.5L + r * p);
+  // 2^k, built from its exponent field: |k| <= 1022.
+  return e * std::bit_cast<double>(static_cast<std::uint64_t>(static_cast<int>(k) + 1023) << 52);
 }
