@@ -2,11 +2,12 @@
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
-// ln(hi + lo) in the x87 extended format (s01bazn.cpp).
+// ln(hi + lo) in the x87 extended format (s01bazn.cpp; zeb_ext.h).
 long double s01bazn(double hi, double lo);
 
 namespace {
@@ -47,17 +48,19 @@ double s01bafn(double x, char* errbuf, int& ifail) {
   // Below x02ajf, ln(1 + X) = X - X^2/2 rounds to X (also where X is subnormal
   // and the quotient below would lose it).
   if (std::fabs(x) < x02ajfn()) return x;
+  if (!(x <= x02alfn())) return x;  // +Inf, and NaN, which fails every comparison
+  zeb::ext::Precision guard(x);
+  double v = 0.0;
   const double t = 1.0074696667295095 * x / ((2.0 + x) * 0.1728544674517796);
   if (t * t <= 1.0) {
-    const long double s = x / (2.0L + x);
-    const long double w = s * s;
-    const long double w2 = w * w;
-    const long double w4 = w2 * w2;
-    const long double p = ((kLog1pT[7] + w * kLog1pT[6]) + w2 * (kLog1pT[5] + w * kLog1pT[4])) +
-                          w4 * ((kLog1pT[3] + w * kLog1pT[2]) + w2 * (kLog1pT[1] + w * kLog1pT[0]));
-    return static_cast<double>(2.0L * s + s * (w * p));
+    const zeb::ext::ld s = x / (2.0L + x);
+    const zeb::ext::ld w = s * s;
+    // T(w) as four Horner chains in w^4.
+    v = static_cast<double>(2.0L * s + s * (w * zeb::ext::horner<4>(kLog1pT, w)));
+  } else {
+    const dd::dd u = dd::two_sum(1.0, x);
+    v = static_cast<double>(s01bazn(u.hi, u.lo));
   }
-  if (!(x <= x02alfn())) return x;  // +Inf, and NaN, which fails every comparison
-  const dd::dd u = dd::two_sum(1.0, x);
-  return static_cast<double>(s01bazn(u.hi, u.lo));
+  guard.release(v);
+  return v;
 }

@@ -1,15 +1,17 @@
-// ln(hi + lo) in the x87 extended format (long double on x86-64), for
-// hi + lo > 0 finite, |lo| at most an ulp of hi: the logarithm of s01bafn's
-// outer range and of ln gamma, E1 and Ei, which want it to 2^-62 relative.
+// ln(hi + lo) in the x87 extended format (zeb_ext.h), for hi + lo > 0
+// finite, |lo| at most an ulp of hi, and a caller that holds a
+// zeb::ext::Precision: the logarithm of s01bafn's outer range and of
+// ln gamma, E1 and Ei, which want it to 2^-62 relative.
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 
 namespace {
 
-using ld = long double;
+using zeb::ext::ld;
 
 // T(w) = (2 atanh(s) - 2s) / s^3: minimax polynomial of degree 8 in w = s^2 on
 // [0.0, 0.029443139], fitted by tools/refdata/fit_s_first.py; max
@@ -27,14 +29,7 @@ constexpr double kLnT[9][2] = {
     {0.6666666666666666, 3.7478005840812335e-17},
 };
 
-// The series as extended constants, formed at compile time.
-struct Series {
-  ld c[9];
-  constexpr Series() : c{} {
-    for (std::size_t i = 0; i < 9; ++i) c[i] = static_cast<ld>(kLnT[i][0]) + kLnT[i][1];
-  }
-};
-constexpr Series kT;
+constexpr zeb::ext::Pairs kT(kLnT);
 
 // ln 2 (mpmath, 40 digits).
 constexpr ld kLn2 = 0.6931471805599453094172321214581765680755L;
@@ -71,10 +66,6 @@ long double s01bazn(double hi, double lo) {
   const ld ml = static_cast<ld>(lo) * pow2(-(k / 2)) * pow2(-(k - k / 2));
   const ld s = ((m - 1.0) + ml) / ((static_cast<ld>(m) + 1.0) + ml);
   const ld w = s * s;
-  // T(w) in Estrin's form: pairs, then pairs of pairs.
-  const ld w2 = w * w;
-  const ld w4 = w2 * w2;
-  const ld t = ((kT.c[8] + w * kT.c[7]) + w2 * (kT.c[6] + w * kT.c[5])) +
-               w4 * (((kT.c[4] + w * kT.c[3]) + w2 * (kT.c[2] + w * kT.c[1])) + w4 * kT.c[0]);
-  return e * kLn2 + (2.0L * s + s * (w * t));
+  // T(w) as four Horner chains in w^4.
+  return e * kLn2 + (2.0L * s + s * (w * zeb::ext::horner<4>(kT, w)));
 }

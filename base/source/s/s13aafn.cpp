@@ -1,19 +1,20 @@
 // Exponential integral E1(x) for x > 0, and -Ei(-x) for x < 0.
 #include <cstddef>
 
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
 // -Ei(-x) for -708.3 <= x < 0 (s13aazn.cpp); exp(x) and ln(hi + lo) in the
-// x87 extended format (s15adyn.cpp, s01bazn.cpp).
+// x87 extended format (s15adyn.cpp, s01bazn.cpp; zeb_ext.h).
 double s13aazn(double x);
 long double s15adyn(double x);
 long double s01bazn(double hi, double lo);
 
 namespace {
 
-using ld = long double;
+using zeb::ext::ld;
 
 // E1(x) + ln x: minimax polynomial of degree 13 in x on [0.0, 1.0], fitted by
 // tools/refdata/fit_s_first.py; max E1-relative error 5.6e-20 with the pairs
@@ -131,40 +132,11 @@ constexpr double kE1D_Q[10][2] = {
     {7778.8982674185145, 4.415762875528796e-13},
 };
 
-// A table of pairs hi + lo as extended constants, formed at compile time.
-template <std::size_t N>
-struct Ext {
-  ld c[N];
-  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
-    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
-  }
-};
-
-// The polynomial c (from the highest power) at t by K Horner chains in t^K,
-// chain m over the powers m, m + K, ..., joined at the end: 1/K of the
-// dependent steps.
-template <std::size_t K, std::size_t N>
-ld horner(const Ext<N>& c, ld t) {
-  static_assert(K >= 1 && N >= K);
-  ld tk = t;
-  for (std::size_t i = 1; i < K; ++i) tk *= t;
-  ld s[K];
-  for (std::size_t m = 0; m < K; ++m) {
-    std::size_t i = (N - 1 - m) % K;  // c[i] multiplies t^(N-1-i)
-    ld v = c.c[i];
-    for (i += K; i < N; i += K) v = v * tk + c.c[i];
-    s[m] = v;
-  }
-  ld v = s[K - 1];
-  for (std::size_t m = K - 1; m-- > 0;) v = v * t + s[m];
-  return v;
-}
-
-constexpr Ext kA(kE1A);
-constexpr Ext kB(kE1B);
-constexpr Ext kC(kE1C);
-constexpr Ext kDP(kE1D_P);
-constexpr Ext kDQ(kE1D_Q);
+constexpr zeb::ext::Pairs kA(kE1A);
+constexpr zeb::ext::Pairs kB(kE1B);
+constexpr zeb::ext::Pairs kC(kE1C);
+constexpr zeb::ext::Pairs kDP(kE1D_P);
+constexpr zeb::ext::Pairs kDQ(kE1D_Q);
 
 }  // namespace
 
@@ -178,9 +150,9 @@ constexpr Ext kDQ(kE1D_Q);
 //                itself (numerator and denominator times x^9); the value is
 //                subnormal from 701.8 on;
 //   above 708.3: 0.
-// The series are summed in the x87 extended format (long double), whose
-// 64-bit significand keeps their roundings near 2^-62, exp(-x) comes in the
-// same format, and the one rounding to double is the last.
+// The series are summed in the x87 extended format, whose 64-bit significand
+// keeps their roundings near 2^-62, exp(-x) comes in the same format, and the
+// one rounding to double is the last.
 double s13aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   if (x == 0.0) {
@@ -194,18 +166,25 @@ double s13aafn(double x, char* errbuf, int& ifail) {
     return -x02alfn();
   }
   zeb::errbuf_close(errbuf, 0, ifail);
-  if (x < 0.0) return s13aazn(x);
   if (!(x <= 708.3)) return x > 708.3 ? 0.0 : x;  // x may be NaN
-
+  zeb::ext::Precision guard(x);
+  double v = 0.0;
+  if (x < 0.0) {
+    v = s13aazn(x);
+    guard.release(v);
+    return v;
+  }
   ld r;
   if (x <= 1.0) {
-    r = horner<2>(kA, x) - s01bazn(x, 0.0);
+    r = zeb::ext::horner<2>(kA, x) - s01bazn(x, 0.0);
   } else if (x <= 2.0) {
-    r = horner<4>(kB, 2.0 * x - 3.0);
+    r = zeb::ext::horner<4>(kB, 2.0 * x - 3.0);
   } else if (x <= 4.0) {
-    r = horner<4>(kC, x - 3.0);
+    r = zeb::ext::horner<4>(kC, x - 3.0);
   } else {
-    r = s15adyn(-x) * (horner<2>(kDP, x) / (horner<2>(kDQ, x) * x));
+    r = s15adyn(-x) * (zeb::ext::horner<2>(kDP, x) / (zeb::ext::horner<2>(kDQ, x) * x));
   }
-  return static_cast<double>(r);
+  v = static_cast<double>(r);
+  guard.release(v);
+  return v;
 }

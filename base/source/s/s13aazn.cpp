@@ -1,20 +1,21 @@
 // -Ei(-x) for -708.3 <= x < 0, the real continuation of E1 to negative
-// arguments; s13aafn has screened the argument. The value is carried in the
-// x87 extended format (long double on x86-64) and rounded to double once.
+// arguments; s13aafn has screened the argument and holds the
+// zeb::ext::Precision. The value is carried in the x87 extended format
+// (zeb_ext.h) and rounded to double once.
 #include <cstddef>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 
-// exp(x) and ln(hi + lo) in the x87 extended format (s15adyn.cpp,
-// s01bazn.cpp).
+// exp(x) and ln(hi + lo) in the extended format (s15adyn.cpp, s01bazn.cpp).
 long double s15adyn(double x);
 long double s01bazn(double hi, double lo);
 
 namespace {
 
 namespace dd = zeb::dd;
-using ld = long double;
+using zeb::ext::ld;
 
 // R(y) = (Ei(y) - ln(y/y0)) / (y - y0): minimax rational of degree 9/9 in s =
 // 2y/3 - 2 on [-2.0, 2.0], fitted by tools/refdata/fit_s_first.py; max
@@ -149,39 +150,18 @@ constexpr double kY0[3] = {0.3725074107813666, 1.3140183414386028e-17,
 constexpr ld kY0x = 0.3725074107813666344619918665801191335357L;
 constexpr ld kLnY0 = -0.9874983466453418518440360746184590467542L;
 
-// A table of pairs hi + lo as extended constants, formed at compile time.
-template <std::size_t N>
-struct Ext {
-  ld c[N];
-  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
-    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
-  }
-};
-constexpr Ext kAP(kEiA_P);
-constexpr Ext kAQ(kEiA_Q);
-constexpr Ext kBP(kEiB_P);
-constexpr Ext kBQ(kEiB_Q);
-constexpr Ext kCP(kEiC_P);
-constexpr Ext kCQ(kEiC_Q);
+constexpr zeb::ext::Pairs kAP(kEiA_P);
+constexpr zeb::ext::Pairs kAQ(kEiA_Q);
+constexpr zeb::ext::Pairs kBP(kEiB_P);
+constexpr zeb::ext::Pairs kBQ(kEiB_Q);
+constexpr zeb::ext::Pairs kCP(kEiC_P);
+constexpr zeb::ext::Pairs kCQ(kEiC_Q);
 
-// p(y)/q(y) for tables from the highest power, of one length, each as two
-// Horner chains in y^2 (of the even and the odd powers) that run side by side
-// with the other's.
+// p(y)/q(y), each as two Horner chains in y^2 (of the even and the odd
+// powers).
 template <std::size_t N>
-ld rational(const Ext<N>& p, const Ext<N>& q, ld y) {
-  static_assert(N >= 2);
-  constexpr std::size_t k0 = (N - 1) % 2;  // the chain that ends with c[N-1]
-  const ld y2 = y * y;
-  ld p0 = p.c[k0], p1 = p.c[1 - k0], q0 = q.c[k0], q1 = q.c[1 - k0];
-  for (std::size_t i = k0 + 2; i < N; i += 2) {
-    p0 = p0 * y2 + p.c[i];
-    q0 = q0 * y2 + q.c[i];
-  }
-  for (std::size_t i = 3 - k0; i < N; i += 2) {
-    p1 = p1 * y2 + p.c[i];
-    q1 = q1 * y2 + q.c[i];
-  }
-  return (p0 + y * p1) / (q0 + y * q1);
+ld rational(const zeb::ext::Pairs<N>& p, const zeb::ext::Pairs<N>& q, ld y) {
+  return zeb::ext::horner<2>(p, y) / zeb::ext::horner<2>(q, y);
 }
 
 // The polynomial c (pairs hi + lo, highest power first) at x by compensated

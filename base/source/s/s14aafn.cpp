@@ -1,19 +1,18 @@
-// Gamma function.
-//
-// The value is carried in the x87 extended format (long double on x86-64),
-// whose 64-bit significand keeps the roundings of the series and of the up to
-// 170 factors of the recurrence below 0.1 of the ulp of the double result, and
-// whose exponent range holds any partial product: the one conversion to
-// double at the end rounds the value once.
+// Gamma function. The value is carried in the x87 extended format
+// (zeb_ext.h), whose 64-bit significand keeps the roundings of the series and
+// of the up to 170 factors of the recurrence below 0.1 of the ulp of the
+// double result, and whose exponent range holds any partial product; it is
+// rounded to double once.
 #include <cmath>
 #include <cstddef>
 
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 
 namespace {
 
-using ld = long double;
+using zeb::ext::ld;
 
 // The series of Gamma(1 + G) for the 17-digit band, the band that x02bezn()
 // selects (16). No other band is carried: this one serves any band asked for,
@@ -50,35 +49,10 @@ constexpr double kGammaT[25][2] = {
     {0.886226925452758, -3.8298852531805496e-17},
 };
 
-// The series as extended constants, formed at compile time.
-struct Series {
-  ld c[25];
-  constexpr Series() : c{} {
-    for (std::size_t i = 0; i < 25; ++i) c[i] = static_cast<ld>(kGammaT[i][0]) + kGammaT[i][1];
-  }
-};
-constexpr Series kG;
+constexpr zeb::ext::Pairs kG(kGammaT);
 
 // Value with the failures of a too large argument and of a pole.
 constexpr double kHuge = 4.3e304;
-
-// The series at t by four Horner chains in t^4, each over the powers of one
-// residue mod 4, joined at the end: a quarter of the dependent steps.
-inline ld series(ld t) {
-  constexpr std::size_t n = 25;
-  const ld t2 = t * t;
-  const ld t4 = t2 * t2;
-  ld s[4];
-  for (std::size_t m = 0; m < 4; ++m) {
-    // c[i] multiplies t^(n-1-i); chain m holds the powers m, m+4, ..., from
-    // the highest.
-    std::size_t i = (n - 1 - m) % 4;
-    ld v = kG.c[i];
-    for (i += 4; i < n; i += 4) v = v * t4 + kG.c[i];
-    s[m] = v;
-  }
-  return (s[0] + t * s[1]) + t2 * (s[2] + t * s[3]);
-}
 
 // The product of g + i for i = a, a+1, ..., n-a (a >= 1), taken in pairs
 // (i, n - i), whose product is q + i (n - i) with q = g (g + n): half the
@@ -142,12 +116,14 @@ double s14aafn(double x, char* errbuf, int& ifail) {
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (!(ax <= 170.0)) return x;  // NaN
+  zeb::ext::Precision guard(x);
 
   // n = N or M, G in [0, 1] and t = 2G - 1, exact in the extended format
   // (G = 1 + X for -2^-11 < X < 0 but for a last 2^-65).
   const int n = static_cast<int>(x < 0.0 ? 1.0 - tx : tx);
   const ld g = x < 0.0 ? x + static_cast<ld>(n) : static_cast<ld>(x - tx);
-  const ld pg = series(2.0L * g - 1.0L);
+  // The series as four Horner chains in t^4.
+  const ld pg = zeb::ext::horner<4>(kG, 2.0L * g - 1.0L);
 
   ld r;
   if (x >= 2.0) {
@@ -162,5 +138,7 @@ double s14aafn(double x, char* errbuf, int& ifail) {
     const ld d = -(x + (n - 1.0)) * pairs(-g, 2, n + 2) * g;
     r = pg / (n % 2 == 0 ? d : -d);
   }
-  return static_cast<double>(r);
+  double v = static_cast<double>(r);
+  guard.release(v);
+  return v;
 }

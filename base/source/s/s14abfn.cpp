@@ -1,10 +1,9 @@
-// ln Gamma(x) for x > 0.
-//
-// The value is carried in the x87 extended format (long double on x86-64) and
-// rounded to double once.
+// ln Gamma(x) for x > 0. The value is carried in the x87 extended format
+// (zeb_ext.h) and rounded to double once.
 #include <cstddef>
 #include <iterator>
 
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
@@ -14,7 +13,7 @@ long double s01bazn(double hi, double lo);
 
 namespace {
 
-using ld = long double;
+using zeb::ext::ld;
 
 // The rationals of the ranges up to 12, in the manner of Cody and Hillstrom.
 // Each carries the whole value but for an exact factor, and is summed in the
@@ -115,38 +114,18 @@ constexpr double kStirling[] = {
 constexpr ld kLn6 = 1.791759469228055000812477358380702272723L;
 constexpr ld kHalfLn2Pi = 0.9189385332046727417803297364056176398614L;
 
-// A table of pairs hi + lo as extended constants, formed at compile time.
-template <std::size_t N>
-struct Ext {
-  ld c[N];
-  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
-    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
-  }
-};
-constexpr Ext kR1P(kLgamR1_P);
-constexpr Ext kR1Q(kLgamR1_Q);
-constexpr Ext kR2P(kLgamR2_P);
-constexpr Ext kR2Q(kLgamR2_Q);
-constexpr Ext kR4P(kLgamR4_P);
-constexpr Ext kR4Q(kLgamR4_Q);
+constexpr zeb::ext::Pairs kR1P(kLgamR1_P);
+constexpr zeb::ext::Pairs kR1Q(kLgamR1_Q);
+constexpr zeb::ext::Pairs kR2P(kLgamR2_P);
+constexpr zeb::ext::Pairs kR2Q(kLgamR2_Q);
+constexpr zeb::ext::Pairs kR4P(kLgamR4_P);
+constexpr zeb::ext::Pairs kR4Q(kLgamR4_Q);
 
 // z P(z)/Q(z) for an exact z, P and Q each as two Horner chains in z^2 (of
-// the even and the odd powers) that run side by side with the other's.
+// the even and the odd powers).
 template <std::size_t N>
-ld times_rational(double z, const Ext<N>& p, const Ext<N>& q) {
-  static_assert(N >= 2);
-  constexpr std::size_t k0 = (N - 1) % 2;  // the chain that ends with c[N-1]
-  const ld z2 = static_cast<ld>(z) * z;
-  ld p0 = p.c[k0], p1 = p.c[1 - k0], q0 = q.c[k0], q1 = q.c[1 - k0];
-  for (std::size_t i = k0 + 2; i < N; i += 2) {
-    p0 = p0 * z2 + p.c[i];
-    q0 = q0 * z2 + q.c[i];
-  }
-  for (std::size_t i = 3 - k0; i < N; i += 2) {
-    p1 = p1 * z2 + p.c[i];
-    q1 = q1 * z2 + q.c[i];
-  }
-  return z * ((p0 + z * p1) / (q0 + z * q1));
+ld times_rational(double z, const zeb::ext::Pairs<N>& p, const zeb::ext::Pairs<N>& q) {
+  return z * (zeb::ext::horner<2>(p, z) / zeb::ext::horner<2>(q, z));
 }
 
 }  // namespace
@@ -166,10 +145,14 @@ double s14abfn(double x, char* errbuf, int& ifail) {
     }
     // ln Gamma(X) = -ln X - Euler X + ..., and Euler X is below 2e-18 of it.
     zeb::errbuf_close(errbuf, 0, ifail);
-    return static_cast<double>(-s01bazn(x, 0.0));
+    zeb::ext::Precision guard(x);
+    double v = static_cast<double>(-s01bazn(x, 0.0));
+    guard.release(v);
+    return v;
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (!(x <= 2.55e305)) return x;  // NaN
+  zeb::ext::Precision guard(x);
 
   ld r;
   if (x <= 1.5) {
@@ -200,5 +183,7 @@ double s14abfn(double x, char* errbuf, int& ifail) {
     }
     r = ((x - 0.5L) * s01bazn(x, 0.0) - x) + (kHalfLn2Pi + corr);
   }
-  return static_cast<double>(r);
+  double v = static_cast<double>(r);
+  guard.release(v);
+  return v;
 }

@@ -1,10 +1,11 @@
-// exp(x) in the x87 extended format (long double on x86-64), to about 2^-62
-// relative, for |x| <= 708.4: the exponential of E1 and Ei, where a rounded
-// exp would add its half ulp to theirs. The format's exponent range holds the
-// value wherever it falls.
+// exp(x) in the x87 extended format (zeb_ext.h), to about 2^-62 relative, for
+// |x| <= 708.4 and a caller that holds a zeb::ext::Precision: the
+// exponential of E1 and Ei, where a rounded exp would add its half ulp to
+// theirs. The format's exponent range holds the value wherever it falls.
 #include <bit>
 #include <cstdint>
 
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 
 namespace {
@@ -35,20 +36,14 @@ constexpr long double kLn2Lo = 5.4979230187083711747124716125134360255e-14L;
 
 // x = k ln2 + r, |r| <= ln2/2: x - k kLn2Hi is exact in double (the two are
 // within a factor 2 unless k is 0) and r takes k kLn2Lo in the extended
-// format; exp(r) = 1 + r + r^2/2 + r^3 P(r), P in Estrin's form, and 2^k
-// scales exactly.
+// format; exp(r) = 1 + r + r^2/2 + r^3 P(r), P as four Horner chains in r^4,
+// and 2^k scales exactly.
 long double s15adyn(double x) {
-  using ld = long double;
+  using zeb::ext::ld;
   // x/ln2 rounded to an integer by the addition of 1.5 2^52.
   const double k = (x * 1.4426950408889634 + 0x1.8p52) - 0x1.8p52;
   const ld r = (x - k * kLn2Hi) - k * kLn2Lo;
-  const ld r2 = r * r;
-  const ld r4 = r2 * r2;
-  const ld r8 = r4 * r4;
-  const double* c = kExpP;
-  const ld p = ((c[9] + r * c[8]) + r2 * (c[7] + r * c[6])) +
-               r4 * ((c[5] + r * c[4]) + r2 * (c[3] + r * c[2])) + r8 * (c[1] + r * c[0]);
-  const ld e = (1.0L + r) + r2 * (0.5L + r * p);
+  const ld e = (1.0L + r) + (r * r) * (0.5L + r * zeb::ext::horner<4>(kExpP, r));
   // 2^k, built from its exponent field: |k| <= 1022.
   return e * std::bit_cast<double>(static_cast<std::uint64_t>(static_cast<int>(k) + 1023) << 52);
 }

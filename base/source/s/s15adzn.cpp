@@ -1,24 +1,20 @@
 // scale * erfc(x + xl), for a power of two `scale`, rounded to double, and
 // in lo what the rounding left (exact while the value is normal): the kernel
 // of erfc, erf and the normal distribution functions, which hand it an
-// argument with its low part xl (|xl| at most half an ulp of x).
-//
-// The value is carried in the x87 extended format (long double on x86-64: a
-// 64-bit significand and an exponent range far beyond double's), in which a
-// dozen roundings of 2^-64 stay below a fiftieth of the ulp of the double
-// result, no intermediate leaves the normal range, and the one conversion to
-// double at the end rounds the value once, subnormal or not.
+// argument with its low part xl (|xl| at most half an ulp of x). The value
+// is carried in the x87 extended format (zeb_ext.h) and rounded once.
 #include <cmath>
 #include <cstddef>
 
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 
-// erf(x) for |x| <= 0.46875 in extended precision (s15aezn.cpp).
+// erf(x) for |x| <= 0.46875 in the extended format (s15aezn.cpp).
 long double s15aezn(double x);
 
 namespace {
 
-using ld = long double;
+using zeb::ext::ld;
 
 // exp(A^2) erfc(A): minimax rational of degree 8/8 in A on [0.46875, 4.0],
 // fitted by tools/refdata/fit_s_first.py; max relative error 2.8e-19 with the
@@ -409,37 +405,8 @@ constexpr ld k2RsqrtPi = 1.1283791670955125738961589031215452L;
 // 1/sqrt(pi).
 constexpr ld kRsqrtPi = 0.56418958354775628694807945156077259L;
 
-// A table of pairs hi + lo as extended constants, formed at compile time.
-template <std::size_t N>
-struct Ext {
-  ld c[N];
-  constexpr explicit Ext(const double (&p)[N][2]) : c{} {
-    for (std::size_t i = 0; i < N; ++i) c[i] = static_cast<ld>(p[i][0]) + p[i][1];
-  }
-};
-constexpr Ext kMP(kErfcM_P);
-constexpr Ext kMQ(kErfcM_Q);
-
-// Horner's rule over a table from the highest power.
-template <class T, std::size_t N>
-inline ld horner(const T (&c)[N], ld x) {
-  ld s = c[0];
-  for (std::size_t i = 1; i < N; ++i) s = s * x + c[i];
-  return s;
-}
-
-// The same sum as two Horner chains in x^2, of the even and the odd powers,
-// which run side by side: half the dependent steps.
-template <class T, std::size_t N>
-inline ld horner2(const T (&c)[N], ld x, ld x2) {
-  static_assert(N >= 2);
-  constexpr std::size_t k0 = (N - 1) % 2;  // the chain that ends with c[N-1]
-  ld s0 = c[k0];
-  ld s1 = c[1 - k0];
-  for (std::size_t i = k0 + 2; i < N; i += 2) s0 = s0 * x2 + c[i];
-  for (std::size_t i = 3 - k0; i < N; i += 2) s1 = s1 * x2 + c[i];
-  return s0 + x * s1;
-}
+constexpr zeb::ext::Pairs kMP(kErfcM_P);
+constexpr zeb::ext::Pairs kMQ(kErfcM_Q);
 
 // The table reversed in order, for the polynomial x^(N-1) p(1/x).
 template <std::size_t N>
@@ -472,6 +439,7 @@ double s15adzn(double x, double xl, double scale, double& lo) {
   lo = 0.0;
   if (!(x < 26.6)) return x >= 26.6 ? 0.0 : x;  // x may be NaN
   if (x <= -6.5) return 2.0 * scale;
+  zeb::ext::Precision guard(x, xl, scale);
   const double a = std::fabs(x);
   ld v = 0.0L;
   if (a <= 0.46875) {
@@ -497,22 +465,23 @@ double s15adzn(double x, double xl, double scale, double& lo) {
     // F = exp(A^2) erfc(A).
     ld f;
     if (a <= 4.0) {
-      const ld a2 = static_cast<ld>(a) * a;
-      f = horner2(kMP.c, a, a2) / horner2(kMQ.c, a, a2);
+      f = zeb::ext::horner<2>(kMP, a) / zeb::ext::horner<2>(kMQ, a);
     } else {
       // R(u)/A^2 = R(u) u, u = 1/A^2, is P(u) u / Q(u), or with the
       // polynomials reversed in s = A^2, p(s) / (s q(s)), degree 5 over 6; F
       // is then (q(s) s / sqrt(pi) - p(s)) / (q(s) s A), one division.
       const ld s2 = static_cast<ld>(a) * a;
-      const ld qs = horner(kLQ.c, s2) * s2;
-      f = (qs * kRsqrtPi - horner(kLP.c, s2)) / (qs * a);
+      const ld qs = zeb::ext::horner<1>(kLQ.c, s2) * s2;
+      f = (qs * kRsqrtPi - zeb::ext::horner<1>(kLP.c, s2)) / (qs * a);
     }
     // The low part of the argument: d erfc(A)/dA = -(2/sqrt pi) exp(-A^2), so
     // erfc(A + al) = exp(-A^2) (F - (2/sqrt pi) al) to first order.
     v = e * (f - k2RsqrtPi * al) * scale;
     if (x < 0.0) v = 2.0L * scale - v;
   }
-  const double hi = static_cast<double>(v);
-  lo = static_cast<double>(v - hi);
+  double hi = static_cast<double>(v);
+  double rest = static_cast<double>(v - hi);
+  guard.release(hi, rest);
+  lo = rest;
   return hi;
 }

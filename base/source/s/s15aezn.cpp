@@ -1,5 +1,7 @@
-// erf(x) for |x| <= 0.46875 in the x87 extended format: the first range of
-// s15adfn and s15aefn.
+// erf(x) for |x| <= 0.46875 in the x87 extended format (zeb_ext.h), for a
+// caller that holds a zeb::ext::Precision: the first range of s15adfn and
+// s15aefn.
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 
 namespace {
@@ -29,19 +31,13 @@ constexpr long double kC0 = 1.1283791670955125738961589031215452L;
 }  // namespace
 
 // erf(x) = x R(x^2), R the rational of Cody's form, held as
-// (2/sqrt pi) (1 - v/3 + v^2 S(v)), v = x^2, S = P/Q, and evaluated in the x87
-// extended format (long double): its 64-bit significand keeps the handful of
-// roundings below 2^-62 of the value, and its exponent range keeps x^2 and
-// the products normal however small x is, so that the one conversion to
-// double rounds a subnormal value once.
+// (2/sqrt pi) (1 - v/3 + v^2 S(v)), v = x^2, S = P/Q: the handful of
+// roundings stay below 2^-62 of the value, and x^2 and the products stay
+// normal however small x is, so that the one conversion to double rounds a
+// subnormal value once.
 long double s15aezn(double x) {
-  using ld = long double;
+  using zeb::ext::ld;
   const ld v = static_cast<ld>(x) * x;
-  ld p = kErfS_P[0];
-  ld q = kErfS_Q[0];
-  for (int i = 1; i < 4; ++i) {
-    p = p * v + kErfS_P[i];
-    q = q * v + kErfS_Q[i];
-  }
-  return kC0 * x * (1.0L - v * (1.0L / 3 - v * (p / q)));
+  const ld s = zeb::ext::horner<1>(kErfS_P, v) / zeb::ext::horner<1>(kErfS_Q, v);
+  return kC0 * x * (1.0L - v * (1.0L / 3 - v * s));
 }
