@@ -2,12 +2,16 @@
 // the exponential integral and ln(1+x) against the high-precision tables of
 // tools/refdata/gen_s_first.py, and the values and failure records that the
 // routines fix at the edges of their domains.
+#include <fpu_control.h>
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cfloat>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "accuracy.h"
 #include "zeb_frame.h"
@@ -48,6 +52,14 @@ Call call(double x) {
   EXPECT_EQ(errbuf[zeb::errbuf_len - 1], '\0') << "ERRBUF(200:200) is not closed";
   c.record.assign(errbuf, strnlen(errbuf, zeb::errbuf_len));
   return c;
+}
+
+// A body with ERRBUF and IFAIL as a function of x alone.
+template <double (*Body)(double, char*, int&)>
+double value(double x) {
+  char errbuf[zeb::errbuf_len];
+  int ifail = 1;
+  return Body(x, errbuf, ifail);
 }
 
 // The failure record starts with `head`.
@@ -211,4 +223,41 @@ TEST(SFirstEdges, Log1pFailure) {
   EXPECT_EQ((call<s01bafn>(-0.0).ifail), 0);
   EXPECT_EQ((call<s01bafn>(INFINITY).value), INFINITY);
   EXPECT_EQ((call<s01bafn>(5e-324).value), 5e-324);
+}
+
+// The bodies carry their values in the x87 extended format, whose roundings
+// follow the x87 precision control: with the control narrowed to 53 bits by a
+// caller, every table point must still give the same double as with 64, and
+// the caller's control word must be there again after each call.
+TEST(SFirstEdges, X87PrecisionControl) {
+  struct Fn {
+    const char* routine;
+    double (*f)(double);
+  };
+  const Fn fns[] = {{"s14aaf", value<s14aafn>}, {"s14abf", value<s14abfn>},
+                    {"s13aaf", value<s13aafn>}, {"s01baf", value<s01bafn>},
+                    {"s15adf", s15adfn},        {"s15aef", s15aefn},
+                    {"s15abf", s15abfn},        {"s15acf", s15acfn}};
+  fpu_control_t saved;
+  _FPU_GETCW(saved);
+  const fpu_control_t narrow = (saved & ~_FPU_EXTENDED) | _FPU_DOUBLE;
+  for (const Fn& fn : fns) {
+    const auto rows = zeb::acc::load(fn.routine, 1);
+    ASSERT_FALSE(rows.empty()) << fn.routine;
+    std::vector<double> wide;
+    for (const auto& r : rows) wide.push_back(fn.f(r.in[0]));
+    int differ = 0;
+    int lost = 0;
+    _FPU_SETCW(narrow);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const double v = fn.f(rows[i].in[0]);
+      fpu_control_t now;
+      _FPU_GETCW(now);
+      if (now != narrow) ++lost;
+      if (std::bit_cast<std::uint64_t>(v) != std::bit_cast<std::uint64_t>(wide[i])) ++differ;
+    }
+    _FPU_SETCW(saved);
+    EXPECT_EQ(differ, 0) << fn.routine << ": values that follow the precision control";
+    EXPECT_EQ(lost, 0) << fn.routine << ": calls that left another control word";
+  }
 }
