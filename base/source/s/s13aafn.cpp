@@ -141,9 +141,9 @@ constexpr zeb::ext::Pairs kDQ(kE1D_Q);
 }  // namespace
 
 // Ranges for x > 0:
-//   (0, 1]:      E1(x) = P(x) - ln x, P the entire part -Euler + x - x^2/4 + ...,
-//                both as hi + lo; P is the series in x rather than 2x - 1,
-//                which would round below 0.25;
+//   (0, 1]:      E1(x) = P(x) - ln x, P the entire part -Euler + x - x^2/4 + ...;
+//                P is the series in x rather than 2x - 1, which would round
+//                below 0.25;
 //   (1, 2]:      the series in t = 2x - 3, exact;
 //   (2, 4]:      the series in t = x - 3, exact;
 //   (4, 708.3]:  exp(-x)/x F(1/x), F a rational in 1/x that is evaluated in x
