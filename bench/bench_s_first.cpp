@@ -10,7 +10,8 @@
 // Peers: libm (glibc), GSL, and Boost.Math where GSL or libm lacks the
 // function (E1 and Ei, the normal distribution).
 //
-// Built by hand against a build's static library, from the repository root:
+// `make bench` builds and runs it with the others; by hand, against a
+// build's static library, from the repository root:
 //   g++ -O2 -std=c++20 -ffp-contract=off -I build/gen/include -I flimp/include
 //       -DZEB_TEST_DATA_DIR='"tests/data"' bench/bench_s_first.cpp build/libzeb.a
 //       -lgfortran -lgomp -lgsl -lgslcblas -lbenchmark -lpthread -o bench_s_first
