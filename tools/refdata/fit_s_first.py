@@ -18,8 +18,7 @@ sums in long double, and as one double where the series carries a small part
 of the value; the maximum error quoted is measured afresh on 20000 points, and
 on points crowding the ends, with the coefficients as the body sees them.
 
-The grids of exp(-Y^2) and exp(-k/64) of s15adzn (table "expgrid") are pairs
-{h, r} with exp = h (1 + r), from mpmath at 60 digits.
+The exponential polynomial (table "exp") serves both s15adyn and s15adzn.
 """
 
 import sys
@@ -330,30 +329,6 @@ def f_eif(u):
         return y * mp.exp(-y) * mp.ei(y)
 
 
-def exp_grid(name, kmax, arg, argtext, about):
-    """exp(-arg(k)), k = 0..kmax, as pairs {h, r}: h the double nearest to it
-    and r the double nearest to the relative remainder, value = h (1 + r)."""
-    rows, emax = [], mp.mpf(0)
-    with mp.workdps(60):
-        for k in range(kmax + 1):
-            v = mp.exp(-arg(k))
-            h = float(v)
-            r = float((v - h) / h)
-            emax = max(emax, abs(mp.mpf(h) * (1 + mp.mpf(r)) - v) / v)
-            rows.append(f"{{{h!r}, {r!r}}}")
-    what = (f"exp(-{argtext}) = h (1 + r) for k = 0..{kmax} ({about}), as pairs "
-            f"{{h, r}}: h the double nearest to the value and r the double "
-            f"nearest to the relative remainder, from mpmath at 60 digits by "
-            f"tools/refdata/fit_s_first.py; max relative error of h (1 + r) "
-            f"{mp.nstr(emax, 2)}.")
-    lines = ["// " + ln for ln in textwrap.wrap(what, 76)]
-    lines.append(f"constexpr double {name}[{kmax + 1}][2] = {{")
-    for i in range(0, len(rows), 2):
-        lines.append("    " + ", ".join(rows[i:i + 2]) + ",")
-    lines.append("};")
-    return "\n".join(lines)
-
-
 def run(name):
     one = mp.mpf(1)
     if name == "gamma":
@@ -379,13 +354,6 @@ def run(name):
             table("kErfcL", f_erfcl, 0, one / 16, 5, 5, "u = 1/A^2",
                   "R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u", w=w_erfcl,
                   wdesc="erfc-relative", pairs=False),
-        ])
-    if name == "expgrid":
-        return "\n\n".join([
-            exp_grid("kExpY", 425, lambda k: mp.mpf(k * k) / 256, "k^2/256",
-                     "Y = k/16, Y^2 exact"),
-            exp_grid("kExpD", 213, lambda k: mp.mpf(k) / 64, "k/64",
-                     "the nearest multiple of 1/64 to D = (A - Y)(A + Y) <= 3.325"),
         ])
     if name == "log1p":
         c = 3 - 2 * mp.sqrt(2)
@@ -425,7 +393,7 @@ def run(name):
     raise SystemExit(f"unknown table {name}")
 
 
-ALL = ["gamma", "lgamma", "erf", "erfc", "expgrid", "exp", "log1p", "ln", "e1", "ei"]
+ALL = ["gamma", "lgamma", "erf", "erfc", "exp", "log1p", "ln", "e1", "ei"]
 
 if __name__ == "__main__":
     for nm in sys.argv[1:] or ALL:
