@@ -150,7 +150,7 @@ TEST(AccuracyElem, EdgeValues) {
   EXPECT_EQ(ifail, 0);
   // exp(x + i0) keeps an exact zero imaginary part, also past ln(1/x02amf).
   const std::complex<double> e = s01eafn({709.0, 0.0}, eb, ifail);
-  EXPECT_EQ(ifail, 1);  // the real part 8.2e307 is judged to overflow
+  EXPECT_EQ(ifail, 1);  // a real component of 8.2e307 is judged to overflow
   EXPECT_EQ(e.imag(), 0.0);
 }
 
