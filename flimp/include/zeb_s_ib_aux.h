@@ -39,10 +39,10 @@ void s14acyn(double x, int k, int kode, zeb::dd::dd& m, long long& e);
 
 // ln gamma(x + iy) for x >= 1/2, y >= 0, the principal branch (s14agzn.cpp).
 void s14agzn(double x, double y, double& re, double& im);
-// 1 - q and 1 + q, q = exp(2 pi i (x + iy)), for y >= 0, each with full
+// 1 - q, 1 + q and q, q = exp(2 pi i (x + iy)), for y >= 0, each with full
 // relative accuracy (s14agyn.cpp).
 void s14agyn(double x, double y, double& re, double& im, double& pre,
-             double& pim);
+             double& pim, double& qre, double& qim);
 // psi^(k)(x + iy) for x >= 1/2, y >= 0, 0 <= k <= 6 (s14afzn.cpp).
 void s14afzn(double x, double y, int k, double& re, double& im);
 
