@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_s_bernoulli.h"
 #include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
 
@@ -18,33 +19,8 @@ namespace {
 
 using zeb::dd::dd;
 
-// b_j = B_2j/(2j)!, j = 1..22: exact rationals rounded to double
-// (tools/refdata/fit_s14ac.py).
-constexpr double kBern[] = {
-    0.08333333333333333,
-    -0.001388888888888889,
-    3.306878306878307e-05,
-    -8.267195767195768e-07,
-    2.08767569878681e-08,
-    -5.284190138687493e-10,
-    1.3382536530684679e-11,
-    -3.3896802963225827e-13,
-    8.586062056277845e-15,
-    -2.174868698558062e-16,
-    5.5090028283602295e-18,
-    -1.3954464685812522e-19,
-    3.534707039629467e-21,
-    -8.953517427037546e-23,
-    2.267952452337683e-24,
-    -5.744790668872202e-26,
-    1.455172475614865e-27,
-    -3.6859949406653103e-29,
-    9.336734257095045e-31,
-    -2.36502241570063e-32,
-    5.990671762482134e-34,
-    -1.5174548844682903e-35,
-};
-constexpr int kNBern = sizeof(kBern) / sizeof(kBern[0]);
+using zeb::s::kBern;
+using zeb::s::kNBern;
 
 // The switch point for order k: the expansion is used from x >= 18.06 + k/2,
 // where its 22 terms reach 2^-60 of the value (tools/refdata/fit_s14ac.py

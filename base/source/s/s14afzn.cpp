@@ -10,6 +10,7 @@
 #include <complex>
 
 #include "zeb_dd.h"
+#include "zeb_s_bernoulli.h"
 #include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
 
@@ -17,32 +18,7 @@ namespace {
 
 using cplx = std::complex<double>;
 
-// b_j = B_2j/(2j)!, j = 1..22: exact rationals rounded to double
-// (tools/refdata/fit_s14ac.py).
-constexpr double kBern[] = {
-    0.08333333333333333,
-    -0.001388888888888889,
-    3.306878306878307e-05,
-    -8.267195767195768e-07,
-    2.08767569878681e-08,
-    -5.284190138687493e-10,
-    1.3382536530684679e-11,
-    -3.3896802963225827e-13,
-    8.586062056277845e-15,
-    -2.174868698558062e-16,
-    5.5090028283602295e-18,
-    -1.3954464685812522e-19,
-    3.534707039629467e-21,
-    -8.953517427037546e-23,
-    2.267952452337683e-24,
-    -5.744790668872202e-26,
-    1.455172475614865e-27,
-    -3.6859949406653103e-29,
-    9.336734257095045e-31,
-    -2.36502241570063e-32,
-    5.990671762482134e-34,
-    -1.5174548844682903e-35,
-};
+using zeb::s::kBern;
 
 constexpr double kFactorial[] = {1, 1, 2, 6, 24, 120, 720};
 
@@ -89,7 +65,7 @@ void s14afzn(double x, double y, int k, double& re, double& im) {
   cplx ser(0.0, 0.0);
   cplx tj = t;
   double f = (k == 0) ? 1.0 : k + 1.0;  // f_1, or (2j-1)! for order 0
-  for (int j = 0; j < 22; ++j) {
+  for (int j = 0; j < zeb::s::kNBern; ++j) {
     const cplx term = (kBern[j] * f) * tj;
     ser += term;
     if (std::abs(term) <= tol * std::abs(ser)) break;
