@@ -52,3 +52,20 @@ void s14afzn(double x, double y, int k, double& re, double& im);
 double s14bazn(double a, double x, double tol);
 // mu - ln(1+mu) for mu > -1, as hi + lo (s14bayn.cpp).
 zeb::dd::dd s14bayn(double mu);
+
+// The beta functions of the statistics chapters.
+// ln B(a, b) for a, b > 0, a + b finite; NaN otherwise (s14cbzn.cpp).
+double s14cbzn(double a, double b);
+// ln(x^a y^b / B(a, b)) with y = 1 - x given apart, as hi + lo
+// (s14ccyn.cpp). Needs a, b > 0, 0 < x, y <= 1.
+zeb::dd::dd s14ccyn(double a, double b, double x, double y);
+// The incomplete beta function I_x(a, b) in w and its complement
+// 1 - I_x(a, b) = I_y(b, a) in w1, y = 1 - x given apart so that an upper
+// tail keeps its digits (s14cczn.cpp). Returns 0, or 1 (a or b not
+// positive, or NaN), 2 (x or y outside [0, 1], or x + y not 1 to within
+// three units of the last place), 3 (the continued fraction did not settle
+// within its limit of terms; w and w1 hold its last values).
+int s14cczn(double a, double b, double x, double y, double& w, double& w1);
+// I_x(a, b) and its complement for a >= 100, b <= a/20, by the expansion in
+// incomplete gamma functions (s14ccxn.cpp).
+void s14ccxn(double a, double b, double x, double& w, double& w1);
