@@ -15,7 +15,7 @@ ZEB_ACCURACY_REPORT="$rows" "$build/tests/accuracy_tests" > /dev/null ||
   echo
   echo "Measured by \`make accuracy-doc\` (tools/accuracy-doc.sh), which runs the"
   echo "accuracy tests against the reference tables in tests/data. The references"
-  echo "are computed with mpmath at 60 digits or more by the scripts in"
+  echo "are computed with mpmath at 40 digits or more by the scripts in"
   echo "tools/refdata; each table's header states its provenance. Errors are in"
   echo "units of the last place of the reference (ulp) unless marked \"rel\""
   echo "(componentwise relative error) or \"cond\" (ulps divided by the condition"
