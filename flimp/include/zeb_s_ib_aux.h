@@ -69,3 +69,20 @@ int s14cczn(double a, double b, double x, double y, double& w, double& w1);
 // I_x(a, b) and its complement for a >= 100, b <= a/20, by the expansion in
 // incomplete gamma functions (s14ccxn.cpp).
 void s14ccxn(double a, double b, double x, double& w, double& w1);
+// Extended-precision pieces of the beta kernels; each needs the 64-bit x87
+// precision control (zeb::ext::Precision) held by its caller.
+// ln x for finite x > 0 (s14cbyn.cpp).
+long double s14cbyn(long double x);
+// (atanh(s)/s - 1)/s^2 at w = s^2, 0 <= w <= 0.0295 (s14cbqn.cpp).
+long double s14cbqn(long double w);
+// phi(mu) = mu - ln(1 + mu) for mu > -1, given with l = 1 + mu (s14cbxn.cpp).
+long double s14cbxn(long double mu, long double l);
+// e^x (s14cbwn.cpp).
+long double s14cbwn(long double x);
+// D(x), the correction to Stirling's formula, for x >= 12 (s14cbvn.cpp).
+long double s14cbvn(long double x);
+// ln B(a, b) for a, b > 0, a + b finite (s14cbun.cpp).
+long double s14cbun(double a, double b);
+// ln(x^a y^b / B(a, b)), y = 1 - x given apart, for a, b > 0,
+// 0 < x, y <= 1 (s14ccwn.cpp).
+long double s14ccwn(double a, double b, double x, double y);

@@ -2,27 +2,29 @@
 // statistics chapters. For a large against b (or b against a) and x near
 // the mean, s14ccxn. Otherwise, with x on the side of (a+1)/(a+b+2) where
 // the continued fraction converges fast, I_x(a, b) itself, else I_y(b, a),
-// and the other as 1 less it. With F = x^a y^b / (a B(a, b)) from s14ccyn:
+// and the other as 1 less it. With F = x^a y^b / (a B(a, b)) from s14ccwn:
 //   x <= 1/2 and (b <= 1 or b x <= 1): the power series
 //     I_x(a, b) = (F / y^b) (1 + a sum_{n>=1} (1-b)_n x^n / (n! (a+n)));
 //   otherwise the continued fraction
 //     I_x(a, b) = F / (1 + d_1/(1 + d_2/(1 + ...))),
 //     d_(2m+1) = -(a+m)(a+b+m) x / ((a+2m)(a+2m+1)),
 //     d_(2m)   = m (b-m) x / ((a+2m-1)(a+2m)),
-//   whose depth the modified Lentz recurrence finds and whose value a
-//   backward pass from that depth gives (checked against twice the depth),
-//   so that the roundings of its terms do not gather.
-// The tail is carried in x87 extended precision from the factor F on, so
-// that its complement, when the tail is the larger of the two, keeps the
-// digits of a double as well. Where a or b is small the tail on the fast
-// side can lie close to 1 (above 3/4); its complement I_y(b, a) is then
-// summed directly from the series of positive terms
+//   by the forward recurrences of its convergents with the numerators and
+//   denominators of the d_j kept apart, so that a term costs no division,
+//   until the differences of the convergents, with what their rate of
+//   decrease says is still to come, fall below eps/64.
+// The factor F (s14ccwn) and the tail are carried in x87 extended
+// precision, so that the tail's complement, when the tail is the larger of
+// the two, keeps the digits of a double as well, and the few hundred
+// roundings of a deep fraction stay below a tenth of the double's ulp.
+// Where a or b is small the tail on the fast side can lie close to 1 (above
+// 3/4); its complement I_y(b, a) is then summed directly from the series
+// of positive terms
 //     I_y(b, a) = (F a / b) sum_{n>=0} (a+b)_n y^n / (b+1)_n
 // when that converges within its limit of terms.
 #include <cmath>
 #include <utility>
 
-#include "zeb_dd.h"
 #include "zeb_ext.h"
 #include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
@@ -34,38 +36,74 @@ using zeb::ext::ld;
 // Terms of the continued fraction before it is given up.
 constexpr int kMaxTerms = 200000;
 
-ld d_term(int j, ld a, ld b, ld x) {
-  const int m = j / 2;
-  if (j % 2 == 1) {
-    return -(a + m) * (a + b + m) * x / ((a + 2.0L * m) * (a + 2.0L * m + 1.0L));
-  }
-  return m * (b - m) * x / ((a + 2.0L * m - 1.0L) * (a + 2.0L * m));
-}
-
-// 1 + d_1/(1 + d_2/(... + d_n)) from the depth n backwards.
-ld backward(int n, ld a, ld b, ld x) {
-  ld v = 1.0L;
-  for (int j = n; j >= 1; --j) v = 1.0L + d_term(j, a, b, x) / v;
-  return v;
-}
-
-// e^(hi + lo) with the argument's low part as a first-order correction.
-ld exp_dd(zeb::dd::dd v) {
-  const ld e = expl(static_cast<ld>(v.hi));
-  return e + e * v.lo;
-}
-
 // Terms of the complement's series before 1 less the tail is kept instead.
 constexpr int kMaxComplement = 40000;
 
+// The continued fraction g = 1 + d_1/(1 + d_2/(1 + ...)) by its convergents
+// A_j / B_j, A_j = q_j A_(j-1) + q_(j-1) p_j A_(j-2) and the same for B_j,
+// with d_j = p_j / q_j, q_0 = 1 (the fraction with each level multiplied
+// through by its q_j): the recurrences take no division, and each pair of
+// terms one for the convergent. The pair differences e_m = |g_2m - g_2(m-1)|
+// shrink at the last like r^m; the fraction is taken as settled once
+// e_m (1 + r/(1-r)), what is left by that estimate, is below eps/64 of g,
+// with r = e_m / e_(m-1) below 1. Code 3 where it does not settle.
+ld fraction(ld a, ld b, ld x, ld tol, int& code) {
+  ld a2 = 1.0L;  // A_(j-2), A_(j-1) and the same for B, from A_(-1), A_0
+  ld a1 = 1.0L;
+  ld b2 = 0.0L;
+  ld b1 = 1.0L;
+  ld g = 1.0L;
+  ld e_prev = -1.0L;
+  ld q_prev = 1.0L;
+  const ld apb = a + b;
+  for (int m = 0; 2 * m + 2 <= kMaxTerms; ++m) {
+    // d_(2m+1) = -(a+m)(a+b+m) x / ((a+2m)(a+2m+1)),
+    // d_(2m+2) = (m+1)(b-m-1) x / ((a+2m+1)(a+2m+2)).
+    const ld a2m = a + 2.0L * m;
+    const ld qo = a2m * (a2m + 1.0L);
+    const ld po = -(a + m) * (apb + m) * x * q_prev;
+    const ld qe = (a2m + 1.0L) * (a2m + 2.0L);
+    const ld pe = (m + 1.0L) * (b - (m + 1.0L)) * x * qo;
+    q_prev = qe;
+    ld an = qo * a1 + po * a2;
+    ld bn = qo * b1 + po * b2;
+    a2 = a1;
+    b2 = b1;
+    a1 = an;
+    b1 = bn;
+    an = qe * a1 + pe * a2;
+    bn = qe * b1 + pe * b2;
+    a2 = a1;
+    b2 = b1;
+    a1 = an;
+    b1 = bn;
+    if (fabsl(b1) > 0x1p8000L) {
+      a1 *= 0x1p-8000L;
+      a2 *= 0x1p-8000L;
+      b1 *= 0x1p-8000L;
+      b2 *= 0x1p-8000L;
+    }
+    const ld gn = a1 / b1;
+    const ld e = fabsl(gn - g);
+    g = gn;
+    if (e <= tol * fabsl(g) && e_prev >= 0.0L) {
+      if (e == 0.0L) return g;
+      const ld r = e / e_prev;
+      if (r < 1.0L && e <= tol * fabsl(g) * (1.0L - r)) return g;
+    }
+    e_prev = e;
+  }
+  code = 3;
+  return g;
+}
+
 // The tail I_x(a, b), x <= (a+1)/(a+b+2), in extended precision, with
 // lf = ln(x^a y^b / B(a,b)); code 3 where the fraction does not settle.
-ld tail(double a, double b, double x, double y, zeb::dd::dd lf, double eps, int& code) {
+ld tail(double a, double b, double x, double y, ld lf, double eps, int& code) {
   if (x <= 0.5 && (b <= 1.0 || b * x <= 1.0)) {
     // x^a / B = exp(lf - b ln y); with b <= 1 every term is positive, with
     // b x <= 1 they fall at least as fast as those of e^-1.
-    const zeb::dd::dd ly = zeb::dd::mul(zeb::dd::log(y), b);
-    const ld f = exp_dd(zeb::dd::sub(lf, ly)) / a;
+    const ld f = s14cbwn(lf - b * s14cbyn(y)) / a;
     ld c = 1.0L;  // (1-b)_n x^n / n!
     ld sum = 0.0L;
     for (int n = 1; n <= kMaxTerms; ++n) {
@@ -76,46 +114,13 @@ ld tail(double a, double b, double x, double y, zeb::dd::dd lf, double eps, int&
     }
     return f * (1.0L + a * sum);
   }
-  // Modified Lentz for g = 1 + d_1/(1 + d_2/(1 + ...)), to find the depth.
-  const double tiny = x02amfn();
-  double cc = 1.0;
-  double dd = 0.0;
-  int depth = 0;
-  for (int j = 1; j <= kMaxTerms; ++j) {
-    const double dj = static_cast<double>(d_term(j, a, b, x));
-    dd = 1.0 + dj * dd;
-    if (std::fabs(dd) < tiny) dd = tiny;
-    cc = 1.0 + dj / cc;
-    if (std::fabs(cc) < tiny) cc = tiny;
-    dd = 1.0 / dd;
-    const double delta = cc * dd;
-    depth = j;
-    if (std::fabs(delta - 1.0) <= eps) break;
-  }
-  // The value from that depth backwards; where the fraction converges
-  // slowly its last step says little of what is left, so the value is
-  // checked against one from twice the depth, and the depth doubled until
-  // the two agree.
-  int n = depth + 3;
-  ld v = backward(n, a, b, x);
-  for (;;) {
-    const int n2 = 2 * n + 8;
-    if (n2 > kMaxTerms) {
-      code = 3;
-      break;
-    }
-    const ld v2 = backward(n2, a, b, x);
-    const bool done = fabsl(v2 - v) <= 0.0625L * eps * fabsl(v2);
-    v = v2;
-    n = n2;
-    if (done) break;
-  }
-  return exp_dd(lf) / (a * v);
+  const ld g = fraction(a, b, x, eps / 64.0L, code);
+  return s14cbwn(lf) / (a * g);
 }
 
 // I_y(b, a) by the series of positive terms, or -1 where it would take more
 // than its limit of terms.
-ld complement(double a, double b, double y, zeb::dd::dd lf, double eps) {
+ld complement(double a, double b, double y, ld lf, double eps) {
   if (y > 0.999) return -1.0L;
   ld r = 1.0L;
   ld sum = 1.0L;
@@ -126,7 +131,7 @@ ld complement(double a, double b, double y, zeb::dd::dd lf, double eps) {
     // The ratios move monotonically towards y, so none to come exceeds
     // m = max(q, y), and what is left is below r m / (1 - m).
     const ld m = q > y ? q : static_cast<ld>(y);
-    if (m < 1.0L && r * m <= 0.0625L * eps * sum * (1.0L - m)) return exp_dd(lf) / b * sum;
+    if (m < 1.0L && r * m <= 0.0625L * eps * sum * (1.0L - m)) return s14cbwn(lf) / b * sum;
   }
   return -1.0L;
 }
@@ -166,7 +171,7 @@ int s14cczn(double a, double b, double x, double y, double& w, double& w1) {
     std::swap(a, b);
     std::swap(x, y);
   }
-  const zeb::dd::dd lf = s14ccyn(a, b, x, y);  // ln(x^a y^b / B(a,b))
+  const ld lf = s14ccwn(a, b, x, y);  // ln(x^a y^b / B(a,b))
   int code = 0;
   ld t = tail(a, b, x, y, lf, eps, code);
   if (t > 1.0L) t = 1.0L;
