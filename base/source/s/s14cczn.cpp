@@ -119,19 +119,44 @@ ld tail(double a, double b, double x, double y, ld lf, double eps, int& code) {
 }
 
 // I_y(b, a) by the series of positive terms, or -1 where it would take more
-// than its limit of terms.
+// than its limit of terms. The term ratios q_n = N_n / D_n,
+// N_n = (a+b+n) y, D_n = b+1+n, are kept as their numerators and
+// denominators: with P_n = N_0 ... N_(n-1) and Q_n = D_0 ... D_(n-1), the
+// partial sum is U_n / Q_n, U_(n+1) = U_n D_n + P_(n+1), and no step
+// divides. Two terms a pass, so that the dependent chain through U takes
+// one product and one sum for two terms; the three are scaled by a power
+// of 2 as Q_n grows.
 ld complement(double a, double b, double y, ld lf, double eps) {
   if (y > 0.999) return -1.0L;
-  ld r = 1.0L;
-  ld sum = 1.0L;
-  for (int n = 0; n < kMaxComplement; ++n) {
-    const ld q = (static_cast<ld>(a) + b + n) * y / (static_cast<ld>(b) + 1.0L + n);
-    r *= q;
-    sum += r;
+  const ld ly = y;
+  const ld tol = 0.0625L * eps;
+  ld p = 1.0L;
+  ld q = 1.0L;
+  ld u = 1.0L;
+  ld n0 = (static_cast<ld>(a) + b) * ly;  // N_n
+  ld d0 = static_cast<ld>(b) + 1.0L;       // D_n
+  for (int n = 0; n < kMaxComplement; n += 2) {
+    const ld n1 = n0 + ly;
+    const ld d1 = d0 + 1.0L;
+    const ld p1 = p * n0;
+    const ld p2 = p1 * n1;
+    u = u * (d0 * d1) + (p1 * d1 + p2);
+    q *= d0 * d1;
+    p = p2;
     // The ratios move monotonically towards y, so none to come exceeds
-    // m = max(q, y), and what is left is below r m / (1 - m).
-    const ld m = q > y ? q : static_cast<ld>(y);
-    if (m < 1.0L && r * m <= 0.0625L * eps * sum * (1.0L - m)) return s14cbwn(lf) / b * sum;
+    // m = max(q_(n+1), y), and what is left of the sum is below
+    // r_(n+2) m / (1 - m), r_(n+2) = P_(n+2) / Q_(n+2): with m = M / D_(n+1),
+    // P M <= tol U (D - M).
+    const ld ydn = ly * d1;
+    const ld mn = n1 > ydn ? n1 : ydn;
+    if (mn < d1 && p * mn <= tol * u * (d1 - mn)) return s14cbwn(lf) / b * (u / q);
+    if (q > 0x1p8000L) {
+      p *= 0x1p-8000L;
+      q *= 0x1p-8000L;
+      u *= 0x1p-8000L;
+    }
+    n0 = n1 + ly;
+    d0 = d1 + 1.0L;
   }
   return -1.0L;
 }
