@@ -15,7 +15,7 @@
 // is summed; the other is 1 less it. w = I_x(a, b), w1 = 1 - I_x(a, b).
 #include <cmath>
 
-#include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_bernoulli.h"
 #include "zeb_s_ib.h"
@@ -24,37 +24,37 @@
 
 namespace {
 
-using zeb::dd::dd;
-
 using zeb::s::kBern;
 // Terms of the expansion: with -ln x <= 1 and b <= 30 (s14cczn) the n-th
 // is below about (b/24)^n/n! + (2 pi)^-2n of the first, under 1e-19 by n = 22.
 constexpr int kN = zeb::s::kNBern;
 
-dd stirling_d(double x) { return x < 15.0 ? s14ahzn(x) : s14ahyn(x); }
-
 }  // namespace
 
 void s14ccxn(double a, double b, double x, double& w, double& w1) {
-  using namespace zeb::dd;
   const double eps = x02ajfn();
-  const dd t = add(two_sum(a, 0.5 * b), -0.5);  // T = a + (b-1)/2
-  const dd lx = zeb::dd::log(x);                // ln x < 0, its own digits near 1
-  // Gamma(a+b) / (Gamma(a) T^b) = exp((a - 1/2) ln(1 + b/a)
-  //   + b ln((a+b)/T) - b + D(a+b) - D(a)); (a - 1/2) ln(1 + b/a) is near b.
-  // Above 2^900 the exact products would overflow: these two products are
-  // then taken in double, where they lose nothing that matters against b.
-  const bool huge = a > 0x1p900;
-  const double u = huge ? -t.hi * lx.hi : -mul(lx, t.hi).hi;
-  const dd s = two_sum(a, b);
-  dd e = huge ? dd{(a - 0.5) * std::log1p(b / a), 0.0}
-              : mul(zeb::dd::log(div(s, a)), two_sum(a, -0.5));
-  e = add(e, mul(zeb::dd::log(div(s, t)), b));
-  e = add(e, -b);
-  e = add(e, stirling_d(s.hi));
-  e = sub(e, stirling_d(a));
-  const double ex = std::exp(e.hi);
-  const double pref = ex + ex * e.lo;
+  double u = 0.0;
+  double pref = 0.0;
+  {
+    // Gamma(a+b) / (Gamma(a) T^b) = exp((a - 1/2) ln(1 + b/a)
+    //   + b ln((a+b)/T) - b + D(a+b) - D(a)), T = a + (b-1)/2, in extended
+    // precision: (a - 1/2) ln(1 + b/a) is near b, and (a+b)/T =
+    // 1 + (b+1)/(2T); both logarithms near 0 come from phi (s14cbxn).
+    zeb::ext::Precision guard(a, b, x);
+    using zeb::ext::ld;
+    const ld la = a;
+    const ld lb = b;
+    const ld t = la + 0.5L * (lb - 1.0L);
+    const ld r1 = lb / la;
+    const ld r2 = 0.5L * (lb + 1.0L) / t;
+    const ld l1 = r1 - s14cbxn(r1, 1.0L + r1);
+    const ld l2 = r2 - s14cbxn(r2, 1.0L + r2);
+    const ld e = ((la - 0.5L) * l1 + lb * l2 - lb) + (s14cbvn(la + lb) - s14cbvn(la));
+    u = static_cast<double>(-t * s14cbyn(x));  // ln x < 0, its own digits near 1
+    pref = static_cast<double>(s14cbwn(e));
+    guard.release(u, pref);
+  }
+  const double tsq = a + 0.5 * (b - 1.0);
 
   // c_n: psi = exp((b-1) sum_k l_k w^k), w = s^2, l_k = b_k / (2k).
   double c[kN + 1];
@@ -73,7 +73,7 @@ void s14ccxn(double a, double b, double x, double& w, double& w1) {
   // u^b e^-u / Gamma(b), the start of the recurrences.
   const double lg = s14abfn(b, eb, fail);
   const double r0 = u > 0.0 ? std::exp(b * std::log(u) - u - lg) : 0.0;
-  const double it2 = 1.0 / (t.hi * t.hi);
+  const double it2 = 1.0 / (tsq * tsq);
 
   double sum = 0.0;
   if (q <= 0.5) {
