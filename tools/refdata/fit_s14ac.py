@@ -7,12 +7,13 @@ has the expansion
   S_k(x) ~ x^-k [ 1/k + 1/(2x) + sum_j b_j (k+1)(k+2)...(k+2j-1) x^-2j ],
 
 and for k = 0, ln x - psi(x) ~ 1/(2x) + sum_j b_j (2j-1)! x^-2j, with
-b_j = B_2j / (2j)!. Prints b_1..b_22 (exact rationals rounded to double) and
-checks the switch point of the kernel: from x >= 18.06 + k/2 the expansion
-reaches a relative truncation error below 2^-60 within the 22 terms, for
-every order up to 4000 (and beyond, where the bound only widens). Also prints
-the eight coefficients B_2j/(2j) of order 0 on [18.06, 19.06), where the
-recurrence lands, and the powers of pi of the reflection of s14aefn.
+b_j = B_2j / (2j)!. Prints b_1..b_22 (exact rationals rounded to double, and
+as pairs hi + lo for the kernel's series in extended precision) and checks
+the switch point of the kernel: from x >= 18.06 + k/2 the expansion reaches
+a relative truncation error below 2^-60 within the 22 terms, for every order
+up to 4000 (and beyond, where the bound only widens). Also prints the eight
+coefficients B_2j/(2j) of order 0 from 18.06 up, and the powers of pi of the
+reflection of s14aefn.
 
 Run: /usr/bin/python3 tools/refdata/fit_s14ac.py
 """
@@ -41,6 +42,18 @@ def main():
     print("constexpr double kBern[] = {")
     for j in range(1, NTERMS + 1):
         print(f"    {float(bernoulli(2 * j) / factorial(2 * j))!r},")
+    print("};")
+    # The same as pairs hi + lo, for the series carried in the x87 extended
+    # format (s14acyn.cpp, kBernPairs).
+    print()
+    print(f"// b_j = B_2j/(2j)!, j = 1..{NTERMS}, as hi + lo, each part the correctly rounded")
+    print("// double (tools/refdata/fit_s14ac.py).")
+    print("constexpr double kBernPairs[][2] = {")
+    for j in range(1, NTERMS + 1):
+        v = bernoulli(2 * j) / factorial(2 * j)
+        hi = float(v)
+        lo = float(v - mpf(hi))
+        print(f"    {{{hi!r}, {lo!r}}},")
     print("};")
     # Order 0 on the recurrence's landing interval [18.06, 19.06): the
     # expansion of ln x - psi(x) in z = 1/x^2 with B_2j/(2j), j = 1..8.

@@ -18,16 +18,22 @@
 
 int s14aczn(double x, int n, int kode, int m, double* ans) {
   if (n > INT_MAX - (m - 1)) return 7;
-  // Normal numbers have exponents emin <= e <= emax in the form f b^e,
-  // 1/b <= f < 1; the kernel's scaled values are formed in base 2.
-  const int emin = x02bkfn();
-  const int emax = x02blfn();
   int code = 0;
   for (int j = 0; j < m; ++j) {
     zeb::dd::dd v;
     long long e = 0;
     s14acyn(x, n + j, kode, v, e);
     const double h = v.hi + v.lo;
+    if (e == 0) {
+      // The kernel leaves a value unscaled only when it is a normal double
+      // or 0.
+      ans[j] = h;
+      continue;
+    }
+    // Normal numbers have exponents emin <= e <= emax in the form f b^e,
+    // 1/b <= f < 1; the kernel's scaled values are formed in base 2.
+    const int emin = x02bkfn();
+    const int emax = x02blfn();
     int eh = 0;
     std::frexp(h, &eh);
     const long long ev = eh + e;
