@@ -8,6 +8,7 @@
 #include <cmath>
 #include <complex>
 
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_ib_aux.h"
@@ -23,6 +24,12 @@ constexpr double kPiPow[] = {
 
 // The recurrence gives P_1 = -(1+c^2), P_2 = 2c(1+c^2),
 // P_3 = -2(1+c^2)(1+3c^2), P_4 = 8c(1+c^2)(2+3c^2).
+
+// The plain complex product: an infinity or NaN in it marks a pole all the
+// same, and the library's own product would spend time on its recovery.
+std::complex<double> mul(std::complex<double> a, std::complex<double> b) {
+  return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
+}
 
 }  // namespace
 
@@ -59,25 +66,35 @@ std::complex<double> s14affn(std::complex<double> z, int k, char* errbuf, int& i
       const cplx refl = (k % 2 == 0 ? 1.0 : -1.0) * cplx(gr, -gi);
       double mr = 0.0, mi = 0.0, pr = 0.0, pi = 0.0, qr = 0.0, qi = 0.0;
       s14agyn(x, ya, mr, mi, pr, pi, qr, qi);
-      const cplx omq(mr, mi);
-      const cplx c = cplx(0.0, -1.0) * cplx(pr, pi) / omq;
+      // c = -i (1+q)/(1-q) and s = q/(1-q) by one reciprocal of |1-q|^2,
+      // formed in the extended range, where it neither overflows nor
+      // underflows.
+      zeb::ext::Precision guard(mr, mi, pr, pi, qr, qi);
+      const long double d =
+          1.0L / (static_cast<long double>(mr) * mr + static_cast<long double>(mi) * mi);
+      const long double mrd = mr * d;
+      const long double mid = mi * d;
+      const cplx c(static_cast<double>(pi * mrd - pr * mid),
+                   static_cast<double>(-(pr * mrd + pi * mid)));
       // Every P_K beyond the first carries 1 + c^2, which for large y is
       // exponentially small: with s = q/(1-q), c = -i (1 + 2s) and
       // 1 + c^2 = -4 s (1 + s) exactly, free of the cancellation.
-      const cplx sq = cplx(qr, qi) / omq;
-      const cplx opc2 = -4.0 * sq * (1.0 + sq);
+      const cplx sq(static_cast<double>(qr * mrd + qi * mid),
+                    static_cast<double>(qi * mrd - qr * mid));
+      const cplx opc2 = -4.0 * mul(sq, 1.0 + sq);
       const cplx c2 = opc2 - 1.0;
       cplx p;
       switch (k) {
         case 0: p = c; break;
         case 1: p = -opc2; break;
-        case 2: p = 2.0 * c * opc2; break;
-        case 3: p = -2.0 * opc2 * (1.0 + 3.0 * c2); break;
-        default: p = 8.0 * c * opc2 * (2.0 + 3.0 * c2); break;
+        case 2: p = 2.0 * mul(c, opc2); break;
+        case 3: p = -2.0 * mul(opc2, 1.0 + 3.0 * c2); break;
+        default: p = 8.0 * mul(mul(c, opc2), 2.0 + 3.0 * c2); break;
       }
       const cplx v = refl - kPiPow[k] * p;
       re = v.real();
       im = v.imag();
+      guard.release(re, im);
     }
     pole = !std::isfinite(re) || !std::isfinite(im);
   }

@@ -1,101 +1,191 @@
 // psi^(K)(z) for z = x + iy with x >= 1/2, y >= 0 and 0 <= K <= 6: the
-// asymptotic expansion at w = z + n, |w| >= 18.06 + K/2 (the switch point of
-// the real kernel s14acyn), after upward recurrence:
+// asymptotic expansion at w = z + n, |w| >= 8 + K/2, after upward recurrence:
 //   psi^(K)(z) = psi^(K)(w) - (-1)^K K! sum_{i<n} (z+i)^-(K+1),
-//   psi(w) ~ ln w - 1/(2w) - sum_j B_2j/(2j) w^-2j,
+//   psi(w) ~ ln w - 1/(2w) - sum_j b_j f_j w^-2j,
 //   psi^(K)(w) ~ (-1)^(K+1) K! w^-K [1/K + 1/(2w) + sum_j b_j f_j w^-2j],
-// with b_j = B_2j/(2j)!, f_j = (K+1)(K+2)...(K+2j-1). Complex arithmetic in
-// double; the sums are compensated.
+// with b_j = B_2j/(2j)!, f_j = (K+1)(K+2)...(K+2j-1). The recurrence sum and
+// the leading terms, which cancel near the zeros, in x87 extended precision;
+// the tail of the series, below 3e-3 of the leading term, in double.
+#include <bit>
 #include <cmath>
-#include <complex>
+#include <cstdint>
 
-#include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_s_bernoulli.h"
 #include "zeb_s_ib_aux.h"
-#include "zeb_x_ib.h"
 
 namespace {
 
-using cplx = std::complex<double>;
+using zeb::ext::ld;
+using zeb::s::kNBern;
 
-using zeb::s::kBern;
-
+constexpr int kMaxOrder = 6;
 constexpr double kFactorial[] = {1, 1, 2, 6, 24, 120, 720};
 
-// 1/w for w = a + ib, scaled so that no square overflows.
-cplx inv(double a, double b) {
-  const double m = std::fmax(std::fabs(a), std::fabs(b));
-  const double sa = a / m;
-  const double sb = b / m;
-  const double d = m * (sa * sa + sb * sb);
-  return {sa / d, -sb / d};
+// c_Kj = b_j f_j for each order K, from the table of b_j at compile time
+// (f_j exact up to 2^53; the terms that carry two roundings are below 3e-3 of
+// the leading one, so they move the value by less than 1e-18 of it).
+struct Coefs {
+  double c[kMaxOrder + 1][kNBern] = {};
+  constexpr Coefs() {
+    for (int k = 0; k <= kMaxOrder; ++k) {
+      double f = k + 1.0;
+      for (int j = 0; j < kNBern; ++j) {
+        c[k][j] = zeb::s::kBern[j] * f;
+        f *= (k + 2.0 * j + 2.0) * (k + 2.0 * j + 3.0);
+      }
+    }
+  }
+};
+constexpr Coefs kCoef;
+
+constexpr double abs(double v) { return v < 0 ? -v : v; }
+
+// The series is taken until the bound |c_Kj| |w|^-2j of the next term falls
+// below this, against a leading term of at least 1/6 (ln 8 for K = 0). With
+// the shift to |w| >= 8 + K/2 and the counts of kTerms the truncation error
+// is below 1e-18 of psi^(K)(w) (tools/refdata/fit_s14ag.py, which measures
+// it against mpmath on the boundary and the circles at which the count
+// changes).
+constexpr double kTol = 1e-21;
+
+// The number of terms for each order K and each quarter binade of
+// a = |w|^-2, from the bound at the top of it (below 2^-63, one term): the
+// index i = 4095 - (the exponent and first two fraction bits of a) stands for
+// a below 2^(be - 1023) (1 + (m+1)/4), be = (4095 - i) / 4, m = (4095 - i) % 4.
+constexpr int kSlots = 256;
+struct Terms {
+  unsigned char n[kMaxOrder + 1][kSlots] = {};
+  constexpr Terms() {
+    for (int k = 0; k <= kMaxOrder; ++k) {
+      for (int i = 0; i < kSlots; ++i) {
+        const int key = 4095 - i;
+        double a = 1.0 + ((key & 3) + 1) / 4.0;
+        for (int e = key >> 2; e < 1023; ++e) a *= 0.5;
+        int nt = 1;
+        double bound = a * a;
+        while (nt < kNBern && abs(kCoef.c[k][nt]) * bound > kTol) {
+          bound *= a;
+          ++nt;
+        }
+        n[k][i] = static_cast<unsigned char>((nt + 1) & ~1);
+      }
+    }
+  }
+};
+constexpr Terms kTerms;
+
+// The slot of a positive double a below 2 in kTerms (zero and subnormals in
+// the last).
+inline int slot(double a) {
+  const int i = 4095 - static_cast<int>(std::bit_cast<std::uint64_t>(a) >> 50);
+  return i < kSlots ? i : kSlots - 1;
 }
 
-// A complex sum kept as a running sum and the gathered roundings of each
-// part (two_sum), so that the terms of one sign that make it up lose no more
-// than their own rounding.
-struct Sum {
-  double rh = 0.0, rl = 0.0, ih = 0.0, il = 0.0;
-  void add(cplx t) {
-    const zeb::dd::dd a = zeb::dd::two_sum(rh, t.real());
-    rh = a.hi;
-    rl += a.lo;
-    const zeb::dd::dd b = zeb::dd::two_sum(ih, t.imag());
-    ih = b.hi;
-    il += b.lo;
-  }
-  cplx value() const { return {rh + rl, ih + il}; }
-};
-
-}  // namespace
-
-void s14afzn(double x, double y, int k, double& re, double& im) {
-  const double tol = 0.0625 * x02ajfn();
-  const double radius = 18.06 + 0.5 * k;
+// The kernel for one order, so that the powers unroll.
+template <int k>
+void kernel(double x, double y, double& re, double& im) {
+  const double radius = 8.0 + 0.5 * k;
   int n = 0;
   if (y < radius) {
     const double need = std::sqrt(radius * radius - y * y) - x;
     if (need > 0.0) n = static_cast<int>(std::ceil(need));
   }
-  const cplx w(x + n, y);
-  const cplx iw = inv(w.real(), w.imag());
-  const cplx t = iw * iw;
+  // u = x + n exactly (x >= 1/2, n <= 11).
+  const ld u = static_cast<ld>(x) + n;
+  const ld yl = y;
+  const ld y2 = yl * yl;
+  const ld m2 = u * u + y2;
+  const ld inv = 1.0L / m2;
+  const ld iwr = u * inv;  // 1/w
+  const ld iwi = -yl * inv;
 
-  // The series in t = 1/w^2, its terms' factors kept in ratio to |w|^2.
-  cplx ser(0.0, 0.0);
-  cplx tj = t;
-  double f = (k == 0) ? 1.0 : k + 1.0;  // f_1, or (2j-1)! for order 0
-  for (int j = 0; j < zeb::s::kNBern; ++j) {
-    const cplx term = (kBern[j] * f) * tj;
-    ser += term;
-    if (std::abs(term) <= tol * std::abs(ser)) break;
-    f *= (k + 2.0 * j + 2.0) * (k + 2.0 * j + 3.0);
-    tj *= t;
+  // The series in t = 1/w^2 (double), as many terms as kTerms asks, by two
+  // Horner chains in t^2 (the even and the odd powers).
+  const double* c = kCoef.c[k];
+  const double ir = static_cast<double>(iwr);
+  const double ii = static_cast<double>(iwi);
+  const double tr = ir * ir - ii * ii;
+  const double ti = 2.0 * ir * ii;
+  const int nt = kTerms.n[k][slot(static_cast<double>(inv))];
+  const double t2r = tr * tr - ti * ti;
+  const double t2i = 2.0 * tr * ti;
+  double er = c[nt - 2];
+  double ei = 0.0;
+  double orr = c[nt - 1];
+  double oi = 0.0;
+  for (int j = nt - 4; j >= 0; j -= 2) {
+    const double ner = er * t2r - ei * t2i + c[j];
+    ei = er * t2i + ei * t2r;
+    er = ner;
+    const double nor = orr * t2r - oi * t2i + c[j + 1];
+    oi = orr * t2i + oi * t2r;
+    orr = nor;
   }
-  Sum sum;
-  double sign = 1.0;
-  if (k == 0) {
-    // psi(w) = ln w - 1/(2w) - ser
-    const double lr = std::log(std::abs(w));
-    sum.add({lr, std::arg(w)});
-    sum.add(-0.5 * iw);
-    sum.add(-ser);
-    // less sum 1/(z+i)
-    for (int i = n - 1; i >= 0; --i) sum.add(-inv(x + i, y));
-  } else {
-    // S_K(w) = w^-K [1/K + 1/(2w) + ser]; S_K(z) = S_K(w) + sum (z+i)^-(K+1)
-    cplx wk = iw;
-    for (int j = 1; j < k; ++j) wk *= iw;
-    sum.add(wk * (1.0 / k + 0.5 * iw + ser));
-    for (int i = n - 1; i >= 0; --i) {
-      const cplx r = inv(x + i, y);
-      cplx p = r;
-      for (int j = 0; j < k; ++j) p *= r;
-      sum.add(p);
+  const double pr = er + (orr * tr - oi * ti);
+  const double pj = ei + (orr * ti + oi * tr);
+  const double sr = pr * tr - pj * ti;  // ser = t * (the polynomial)
+  const double si = pr * ti + pj * tr;
+
+  // sum_{i<n} (z+i)^-(K+1), smallest terms first
+  ld sumr = 0.0L;
+  ld sumi = 0.0L;
+  for (int i = n - 1; i >= 0; --i) {
+    const ld xi = static_cast<ld>(x) + i;
+    const ld d = 1.0L / (xi * xi + y2);
+    const ld rr = xi * d;
+    const ld ri = -yl * d;
+    ld pr2 = rr;
+    ld pi2 = ri;
+    for (int j = 0; j < k; ++j) {
+      const ld nr = pr2 * rr - pi2 * ri;
+      pi2 = pr2 * ri + pi2 * rr;
+      pr2 = nr;
     }
-    sign = (k % 2 == 1 ? 1.0 : -1.0) * kFactorial[k];
+    sumr += pr2;
+    sumi += pi2;
   }
-  const cplx v = sign * sum.value();
-  re = v.real();
-  im = v.imag();
+
+  ld vr = 0.0L;
+  ld vi = 0.0L;
+  if constexpr (k == 0) {
+    // psi(z) = ln w - 1/(2w) - ser - sum; arg w from the double nearest u,
+    // moved by d arg/du = -y/|w|^2 for the part of u the double drops.
+    const double ud = static_cast<double>(u);
+    const ld theta = static_cast<ld>(std::atan2(y, ud)) - (u - ud) * yl * inv;
+    vr = 0.5L * logl(m2) - 0.5L * iwr - sr - sumr;
+    vi = theta - 0.5L * iwi - si - sumi;
+  } else {
+    // S_K(w) = w^-K [1/K + 1/(2w) + ser]; S_K(z) = S_K(w) + sum
+    ld wr = iwr;
+    ld wi = iwi;
+    for (int j = 1; j < k; ++j) {
+      const ld nr = wr * iwr - wi * iwi;
+      wi = wr * iwi + wi * iwr;
+      wr = nr;
+    }
+    const ld br = 1.0L / k + 0.5L * iwr + sr;
+    const ld bi = 0.5L * iwi + si;
+    const ld sign = (k % 2 == 1 ? 1.0L : -1.0L) * kFactorial[k];
+    vr = sign * (wr * br - wi * bi + sumr);
+    vi = sign * (wr * bi + wi * br + sumi);
+  }
+  re = static_cast<double>(vr);
+  im = static_cast<double>(vi);
+}
+
+}  // namespace
+
+void s14afzn(double x, double y, int k, double& re, double& im) {
+  zeb::ext::Precision guard;
+  switch (k) {
+    case 0: kernel<0>(x, y, re, im); break;
+    case 1: kernel<1>(x, y, re, im); break;
+    case 2: kernel<2>(x, y, re, im); break;
+    case 3: kernel<3>(x, y, re, im); break;
+    case 4: kernel<4>(x, y, re, im); break;
+    case 5: kernel<5>(x, y, re, im); break;
+    default: kernel<6>(x, y, re, im); break;
+  }
+  guard.release(re, im);
 }

@@ -23,8 +23,17 @@ void s14agyn(double x, double y, double& re, double& im, double& pre,
   const double s = s0 + p.lo * c0;  // sin(pi x)
   const double c = c0 - p.lo * s0;  // cos(pi x)
   const double t = -2.0 * kPiHi * y;
-  const double e = std::exp(t);
-  const double em1 = std::expm1(t);
+  // One exponential: e from expm1 where e > 1/2, expm1 from e below, each
+  // difference exact or within half an ulp of a result of at least 1/2.
+  double e = 0.0;
+  double em1 = 0.0;
+  if (t > -0.6931471805599453) {
+    em1 = std::expm1(t);
+    e = 1.0 + em1;
+  } else {
+    e = std::exp(t);
+    em1 = e - 1.0;
+  }
   re = -em1 + e * (2.0 * s * s);
   im = -e * (2.0 * s * c);
   // Re(1 + q) = 1 + e (1 - 2 s^2) = -expm1(-2 pi y) + 2 e c^2.

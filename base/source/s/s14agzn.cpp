@@ -1,128 +1,176 @@
 // ln gamma(z) for z = x + iy with x >= 1/2 and y >= 0, the principal branch
 // (real on the positive axis, continuous elsewhere): Stirling's series at
-// w = z + n, |w| >= 10,
+// w = z + n, |w| >= 8,
 //   ln gamma(w) = (w - 1/2) ln w - w + (1/2) ln(2 pi) + D(w),
 //   D(w) = sum_k B_2k / (2k (2k-1) w^(2k-1)),
-// less sum_{i<n} ln(z+i). Both parts are carried in double-double where
-// they cancel: the real part when ln gamma(z) is small against ln gamma(w),
-// the imaginary part, summed from the angles of w/(z+i), near its zeros.
+// less ln prod_{i<n} (z+i). The large parts, which cancel where ln gamma(z)
+// is small, are carried in x87 extended precision (11 bits beyond double):
+// the real part takes ln|w| and ln|prod (z+i)|^2 from logl, the imaginary
+// part gathers n arg w - sum arg(z+i) as the angle of the one product
+// prod w conj(z+i), each factor of which turns it by less than a right angle
+// clockwise, so that counting its crossings of the negative real axis puts
+// that angle on the right branch. D(w), below 1/96 of the rest, in double.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
-#include "zeb_dd.h"
+#include "zeb_ext.h"
+#include "zeb_s_bernoulli.h"
 #include "zeb_s_ib_aux.h"
 
 namespace {
 
-// Stirling coefficients B_2k/(2k(2k-1)), k = 1..11: exact rationals rounded to
-// double, printed by tools/refdata/fit_s14ah.py; relative truncation error
-// of the eleven terms below 2e-19 for |w| >= 10 with Re w > 0 (twice the real
-// bound, for the angle).
-constexpr double kStirling[] = {
-    0.08333333333333333,
-    -0.002777777777777778,
-    0.0007936507936507937,
-    -0.0005952380952380953,
-    0.0008417508417508417,
-    -0.0019175269175269176,
-    0.00641025641025641,
-    -0.029550653594771242,
-    0.17964437236883057,
-    -1.3924322169059011,
-    13.402864044168393,
+using zeb::ext::ld;
+
+// Stirling coefficients B_2k/(2k(2k-1)) = b_k (2k-2)!, k = 1..16, from the
+// table b_k = B_2k/(2k)! at compile time: the first is 1/12 rounded once,
+// the others carry two roundings, which at |w| >= 8 (their sum below 2e-3 of
+// 1/(12 w)) move D(w) by less than 1e-19.
+struct Stirling {
+  double c[16] = {};
+  constexpr Stirling() {
+    double f = 1.0;  // (2k-2)!
+    for (int k = 1; k <= 16; ++k) {
+      c[k - 1] = zeb::s::kBern[k - 1] * f;
+      f *= (2.0 * k - 1.0) * (2.0 * k);
+    }
+  }
 };
+constexpr Stirling kStirling;
+constexpr int kNStirling = 16;
 
 // (1/2) ln(2 pi) as hi + lo.
 constexpr double kHalfLn2PiHi = 0.9189385332046728;
 constexpr double kHalfLn2PiLo = -3.8782941580672414e-17;
+constexpr double kTwoPiHi = 6.283185307179586;
+constexpr double kTwoPiLo = 2.4492935982947064e-16;
 
-// Shift target: Stirling's series is used from |w| >= 10.
-constexpr double kRadius = 10.0;
+// Shift target: the series is used from |w| >= 8, where with the counts of
+// kTerms it leaves an absolute error below 1e-19 (tools/refdata/fit_s14ag.py,
+// which measures it against mpmath on the boundary and the circles at which
+// the count changes).
+constexpr double kRadius = 8.0;
+
+// Terms are taken until the next one, bounded by |c_k| |w|^-(2k-1), is below
+// this (absolute, against results that cancel to no less than about 0.1).
+constexpr double kTol = 1e-21;
+
+constexpr double abs(double v) { return v < 0 ? -v : v; }
+
+// The number of terms for each quarter binade of a = |w|^-2, from the bound
+// at the top of it (below 2^-63, one term), rounded up to an even count for
+// the two chains of the sum: the index i = 4095 - (the exponent and first two
+// fraction bits of a) stands for a below 2^(be - 1023) (1 + (m+1)/4),
+// be = (4095 - i) / 4, m = (4095 - i) % 4.
+constexpr int kSlots = 256;
+struct Terms {
+  unsigned char n[kSlots] = {};
+  constexpr Terms() {
+    for (int i = 0; i < kSlots; ++i) {
+      const int key = 4095 - i;
+      double a = 1.0 + ((key & 3) + 1) / 4.0;
+      for (int e = key >> 2; e < 1023; ++e) a *= 0.5;
+      double r = 2.0;  // sqrt(a) from above, by bisection
+      double lo = 0.0;
+      for (int j = 0; j < 80; ++j) {
+        const double mid = 0.5 * (lo + r);
+        if (mid * mid >= a) r = mid; else lo = mid;
+      }
+      int nt = 1;
+      double bound = a * r;  // |w|^-3
+      while (nt < kNStirling && abs(kStirling.c[nt]) * bound > kTol) {
+        bound *= a;
+        ++nt;
+      }
+      n[i] = static_cast<unsigned char>((nt + 1) & ~1);
+    }
+  }
+};
+constexpr Terms kTerms;
+
+// The slot of a positive double a below 2 in kTerms (zero and subnormals in
+// the last).
+inline int slot(double a) {
+  const int i = 4095 - static_cast<int>(std::bit_cast<std::uint64_t>(a) >> 50);
+  return i < kSlots ? i : kSlots - 1;
+}
 
 }  // namespace
 
 void s14agzn(double x, double y, double& re, double& im) {
-  using namespace zeb::dd;
+  zeb::ext::Precision guard;
   int n = 0;
   if (y < kRadius) {
     const double need = std::sqrt(kRadius * kRadius - y * y) - x;
     if (need > 0.0) n = static_cast<int>(std::ceil(need));
   }
-  // w = u + iy, u = x + n carried as uh + ul.
-  const dd u = two_sum(x, static_cast<double>(n));
-  const double uh = u.hi;
-  const double big = std::fmax(uh, y);
+  // u = x + n is exact in 64 bits (x >= 1/2, n <= 8).
+  const ld u = static_cast<ld>(x) + n;
+  const ld yl = y;
+  const ld m2 = u * u + yl * yl;  // no overflow in the extended range
+  const ld lw = 0.5L * logl(m2);
+  const ld inv = 1.0L / m2;
+  // arg w from the double nearest u, moved by d arg/du = -y/|w|^2 for the
+  // part of u that the double drops.
+  const double ud = static_cast<double>(u);
+  const ld theta = static_cast<ld>(std::atan2(y, ud)) - (u - ud) * yl * inv;
 
-  // D(w) = (1/w) sum_k c_k t^(k-1), t = 1/w^2, in complex arithmetic; the
-  // reciprocal is scaled by the larger part of w.
-  const double su = uh / big;
-  const double sy = y / big;
-  const double den = big * (su * su + sy * sy);
-  const double ir = su / den;   // Re(1/w)
-  const double ii = -sy / den;  // Im(1/w)
+  // D(w) = (1/w) sum_k c_k t^(k-1), t = 1/w^2, in double: two Horner chains
+  // in t^2, for the even and the odd k.
+  const double ir = static_cast<double>(u * inv);    // Re 1/w
+  const double ii = static_cast<double>(-yl * inv);  // Im 1/w
   const double tr = ir * ir - ii * ii;
   const double ti = 2.0 * ir * ii;
-  double pr = kStirling[10];
-  double pj = 0.0;
-  for (int k = 9; k >= 0; --k) {
-    const double nr = pr * tr - pj * ti + kStirling[k];
-    pj = pr * ti + pj * tr;
-    pr = nr;
+  const int nt = kTerms.n[slot(static_cast<double>(inv))];
+  const double t2r = tr * tr - ti * ti;
+  const double t2i = 2.0 * tr * ti;
+  const double* c = kStirling.c;
+  double er = c[nt - 2];
+  double ei = 0.0;
+  double orr = c[nt - 1];
+  double oi = 0.0;
+  for (int j = nt - 4; j >= 0; j -= 2) {
+    const double ner = er * t2r - ei * t2i + c[j];
+    ei = er * t2i + ei * t2r;
+    er = ner;
+    const double nor = orr * t2r - oi * t2i + c[j + 1];
+    oi = orr * t2i + oi * t2r;
+    orr = nor;
   }
+  const double pr = er + (orr * tr - oi * ti);
+  const double pj = ei + (orr * ti + oi * tr);
   const double dre = pr * ir - pj * ii;
   const double dim = pr * ii + pj * ir;
 
-  const double theta = std::atan2(y, uh);
-  dd res{0.0, 0.0};
-  dd ims{0.0, 0.0};
-  if (big < 0x1p450) {
-    // ln|w| = (1/2) ln(uh^2 + y^2) in double-double.
-    const dd m2 = add(two_prod(uh, uh), two_prod(y, y));
-    dd lw = log(m2);
-    lw.hi *= 0.5;
-    lw.lo *= 0.5;
-    res = mul(two_sum(uh, -0.5), lw);
-    res = add(res, neg(two_prod(y, theta)));
-    res = add(res, -uh);
-    res = add(res, dd{kHalfLn2PiHi, kHalfLn2PiLo});
-    // First-order effect of ul: ul psi(w), psi(w) ~ ln w - 1/(2w).
-    const double hr = 0.5 * ir;  // Re 1/(2w)
-    const double hi = 0.5 * ii;  // Im 1/(2w)
-    res = add(res, dre + u.lo * (lw.hi - hr));
-    // Im: y ln|w| - y + (x - 1/2 + ul) theta + sum_i phi_i + Im D(w), where
-    // phi_i = arg(w / (z+i)) = theta - arg(z+i) takes the place of
-    // n theta - sum_i arg(z+i): w conj(z+i) = (u(x+i) + y^2) - i y (n-i).
-    ims = mul(dd{y, 0.0}, lw);
-    ims = add(ims, -y);
-    ims = add(ims, mul(two_sum(x, -0.5), theta));
-    double ph = 0.0;
-    double pl = 0.0;
-    for (int i = 0; i < n; ++i) {
-      const double phi = std::atan2(-y * (n - i), uh * (x + i) + y * y);
-      const dd s2 = two_sum(ph, phi);
-      ph = s2.hi;
-      pl += s2.lo;
-    }
-    ims = add(ims, fast_two_sum(ph, pl));
-    ims = add(ims, dim + u.lo * (theta - hi));
-  } else {
-    // Nothing cancels out here, and the squares would overflow; no shift.
-    const double lw = std::log(big) + 0.5 * std::log1p(std::fmin(su, sy) * std::fmin(su, sy));
-    res.hi = (uh - 0.5) * lw - y * theta - uh + kHalfLn2PiHi + dre;
-    ims.hi = y * lw + (uh - 0.5) * theta - y + dim;
-  }
+  ld res = (u - 0.5L) * lw - yl * theta - u + (static_cast<ld>(kHalfLn2PiHi) + kHalfLn2PiLo) + dre;
+  // Im: y ln|w| - y + (x - 1/2) arg w + [n arg w - sum_i arg(z+i)] + Im D.
+  ld ims = yl * lw - yl + (static_cast<ld>(x) - 0.5L) * theta + dim;
 
   if (n > 0) {
-    // |prod (z+i)|^2 in double-double.
-    dd m2{1.0, 0.0};
+    // |prod (z+i)|^2, and prod w conj(z+i) = prod [(u(x+i) + y^2) - i y (n-i)]
+    // with the number of its clockwise passes over the negative real axis.
+    ld mp = 1.0L;
+    ld qr = 1.0L;
+    ld qi = 0.0L;
+    int turns = 0;
+    const ld y2 = yl * yl;
     for (int i = 0; i < n; ++i) {
-      const dd xi = two_sum(x, static_cast<double>(i));
-      m2 = mul(m2, add(mul(xi, xi), two_prod(y, y)));
+      const ld xi = static_cast<ld>(x) + i;
+      mp *= xi * xi + y2;
+      const ld fr = u * xi + y2;
+      const ld fi = -yl * (n - i);
+      const ld nr = qr * fr - qi * fi;
+      const ld ni = qr * fi + qi * fr;
+      if (qi < 0.0L && ni >= 0.0L) ++turns;
+      qr = nr;
+      qi = ni;
     }
-    dd lp = log(m2);
-    lp.hi *= 0.5;
-    lp.lo *= 0.5;
-    res = sub(res, lp);
+    res -= 0.5L * logl(mp);
+    ld phi = std::atan2(static_cast<double>(qi), static_cast<double>(qr));
+    if (turns > 0) phi -= turns * (static_cast<ld>(kTwoPiHi) + kTwoPiLo);
+    ims += phi;
   }
-  re = res.hi + res.lo;
-  im = ims.hi + ims.lo;
+  re = static_cast<double>(res);
+  im = static_cast<double>(ims);
+  guard.release(re, im);
 }
