@@ -31,8 +31,8 @@ ld log1p_ext(ld t) { return t - s14cbxn(t, 1.0L + t); }
 }  // namespace
 
 ld s14cbun(double a, double b) {
-  const ld big = std::fmax(a, b);
-  const ld sml = std::fmin(a, b);
+  const ld big = a > b ? a : b;
+  const ld sml = a > b ? b : a;
   const ld s = big + sml;
   if (sml >= kX0) {
     const ld l1 = log1p_ext(sml / big);
@@ -42,13 +42,18 @@ ld s14cbun(double a, double b) {
     return ((kHalfLn2Pi - 0.5L * ls) - (sml - 0.5L) * l2 - (big - 0.5L) * l1) + d;
   }
   // ln gamma(B) = (z_B - 1/2) ln z_B - z_B + (1/2) ln(2 pi) + D(z_B) - ln P_B.
-  const int nb = static_cast<int>(std::ceil(kX0 - static_cast<double>(sml)));
+  // n_B = ceil(12 - B) >= 1.
+  const double rb = kX0 - static_cast<double>(sml);
+  int nb = static_cast<int>(rb);
+  if (nb < rb) ++nb;
   const ld zb = sml + nb;
   ld prod = 1.0L;  // P_A P_B / P_s
   for (int k = 0; k < nb; ++k) prod *= sml + k;
   int n = 0;
   if (big < kX0) {
-    n = static_cast<int>(std::ceil(kX0 - static_cast<double>(big)));
+    const double r = kX0 - static_cast<double>(big);
+    n = static_cast<int>(r);
+    if (n < r) ++n;
     ld pa = 1.0L;
     ld ps = 1.0L;
     for (int k = 0; k < n; ++k) {
