@@ -56,9 +56,6 @@ zeb::dd::dd s14bayn(double mu);
 // The beta functions of the statistics chapters.
 // ln B(a, b) for a, b > 0, a + b finite; NaN otherwise (s14cbzn.cpp).
 double s14cbzn(double a, double b);
-// ln(x^a y^b / B(a, b)) with y = 1 - x given apart, as hi + lo
-// (s14ccyn.cpp). Needs a, b > 0, 0 < x, y <= 1.
-zeb::dd::dd s14ccyn(double a, double b, double x, double y);
 // The incomplete beta function I_x(a, b) in w and its complement
 // 1 - I_x(a, b) = I_y(b, a) in w1, y = 1 - x given apart so that an upper
 // tail keeps its digits (s14cczn.cpp). Returns 0, or 1 (a or b not
