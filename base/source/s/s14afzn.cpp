@@ -101,31 +101,37 @@ void kernel(double x, double y, double& re, double& im) {
   const ld iwi = -yl * inv;
 
   // The series in t = 1/w^2 (double), as many terms as kTerms asks, by two
-  // Horner chains in t^2 (the even and the odd powers).
-  const double* c = kCoef.c[k];
-  const double ir = static_cast<double>(iwr);
-  const double ii = static_cast<double>(iwi);
-  const double tr = ir * ir - ii * ii;
-  const double ti = 2.0 * ir * ii;
-  const int nt = kTerms.n[k][slot(static_cast<double>(inv))];
-  const double t2r = tr * tr - ti * ti;
-  const double t2i = 2.0 * tr * ti;
-  double er = c[nt - 2];
-  double ei = 0.0;
-  double orr = c[nt - 1];
-  double oi = 0.0;
-  for (int j = nt - 4; j >= 0; j -= 2) {
-    const double ner = er * t2r - ei * t2i + c[j];
-    ei = er * t2i + ei * t2r;
-    er = ner;
-    const double nor = orr * t2r - oi * t2i + c[j + 1];
-    oi = orr * t2i + oi * t2r;
-    orr = nor;
+  // Horner chains in t^2 (the even and the odd powers). Beyond |w| = 2^100
+  // it adds nothing, and is left out: 1/w in double could fall among the
+  // subnormals, where each operation costs a hundred cycles.
+  double sr = 0.0;
+  double si = 0.0;
+  if (m2 < 0x1p200L) {
+    const double* c = kCoef.c[k];
+    const double ir = static_cast<double>(iwr);
+    const double ii = static_cast<double>(iwi);
+    const double tr = ir * ir - ii * ii;
+    const double ti = 2.0 * ir * ii;
+    const int nt = kTerms.n[k][slot(static_cast<double>(inv))];
+    const double t2r = tr * tr - ti * ti;
+    const double t2i = 2.0 * tr * ti;
+    double er = c[nt - 2];
+    double ei = 0.0;
+    double orr = c[nt - 1];
+    double oi = 0.0;
+    for (int j = nt - 4; j >= 0; j -= 2) {
+      const double ner = er * t2r - ei * t2i + c[j];
+      ei = er * t2i + ei * t2r;
+      er = ner;
+      const double nor = orr * t2r - oi * t2i + c[j + 1];
+      oi = orr * t2i + oi * t2r;
+      orr = nor;
+    }
+    const double pr = er + (orr * tr - oi * ti);
+    const double pj = ei + (orr * ti + oi * tr);
+    sr = pr * tr - pj * ti;  // ser = t * (the polynomial)
+    si = pr * ti + pj * tr;
   }
-  const double pr = er + (orr * tr - oi * ti);
-  const double pj = ei + (orr * ti + oi * tr);
-  const double sr = pr * tr - pj * ti;  // ser = t * (the polynomial)
-  const double si = pr * ti + pj * tr;
 
   // sum_{i<n} (z+i)^-(K+1), smallest terms first
   ld sumr = 0.0L;

@@ -116,31 +116,37 @@ void s14agzn(double x, double y, double& re, double& im) {
   const ld theta = static_cast<ld>(std::atan2(y, ud)) - (u - ud) * yl * inv;
 
   // D(w) = (1/w) sum_k c_k t^(k-1), t = 1/w^2, in double: two Horner chains
-  // in t^2, for the even and the odd k.
-  const double ir = static_cast<double>(u * inv);    // Re 1/w
-  const double ii = static_cast<double>(-yl * inv);  // Im 1/w
-  const double tr = ir * ir - ii * ii;
-  const double ti = 2.0 * ir * ii;
-  const int nt = kTerms.n[slot(static_cast<double>(inv))];
-  const double t2r = tr * tr - ti * ti;
-  const double t2i = 2.0 * tr * ti;
+  // in t^2, for the even and the odd k. Beyond |w| = 2^100 only the first
+  // term counts, and it is formed in the extended range: 1/w in double could
+  // fall among the subnormals, where each operation costs a hundred cycles.
   const double* c = kStirling.c;
-  double er = c[nt - 2];
-  double ei = 0.0;
-  double orr = c[nt - 1];
-  double oi = 0.0;
-  for (int j = nt - 4; j >= 0; j -= 2) {
-    const double ner = er * t2r - ei * t2i + c[j];
-    ei = er * t2i + ei * t2r;
-    er = ner;
-    const double nor = orr * t2r - oi * t2i + c[j + 1];
-    oi = orr * t2i + oi * t2r;
-    orr = nor;
+  ld dre = c[0] * u * inv;
+  ld dim = -c[0] * yl * inv;
+  if (m2 < 0x1p200L) {
+    const double ir = static_cast<double>(u * inv);    // Re 1/w
+    const double ii = static_cast<double>(-yl * inv);  // Im 1/w
+    const double tr = ir * ir - ii * ii;
+    const double ti = 2.0 * ir * ii;
+    const int nt = kTerms.n[slot(static_cast<double>(inv))];
+    const double t2r = tr * tr - ti * ti;
+    const double t2i = 2.0 * tr * ti;
+    double er = c[nt - 2];
+    double ei = 0.0;
+    double orr = c[nt - 1];
+    double oi = 0.0;
+    for (int j = nt - 4; j >= 0; j -= 2) {
+      const double ner = er * t2r - ei * t2i + c[j];
+      ei = er * t2i + ei * t2r;
+      er = ner;
+      const double nor = orr * t2r - oi * t2i + c[j + 1];
+      oi = orr * t2i + oi * t2r;
+      orr = nor;
+    }
+    const double pr = er + (orr * tr - oi * ti);
+    const double pj = ei + (orr * ti + oi * tr);
+    dre = pr * ir - pj * ii;
+    dim = pr * ii + pj * ir;
   }
-  const double pr = er + (orr * tr - oi * ti);
-  const double pj = ei + (orr * ti + oi * tr);
-  const double dre = pr * ir - pj * ii;
-  const double dim = pr * ii + pj * ir;
 
   ld res = (u - 0.5L) * lw - yl * theta - u + (static_cast<ld>(kHalfLn2PiHi) + kHalfLn2PiLo) + dre;
   // Im: y ln|w| - y + (x - 1/2) arg w + [n arg w - sum_i arg(z+i)] + Im D.
@@ -167,6 +173,15 @@ void s14agzn(double x, double y, double& re, double& im) {
     }
     res -= 0.5L * logl(mp);
     ld phi = std::atan2(static_cast<double>(qi), static_cast<double>(qr));
+    // The double angle is good to an ulp of itself; where the imaginary
+    // part, and a tenth of the real part, come out well below it (near the
+    // zeros of psi on the real axis, or where arg gamma crosses zero), the
+    // angle in 64 bits.
+    const ld rough = ims + phi;
+    if (4.0 * std::fmax(std::fabs(static_cast<double>(rough)), 0.1 * std::fabs(static_cast<double>(res))) <
+        std::fabs(static_cast<double>(phi))) {
+      phi = atan2l(qi, qr);
+    }
     if (turns > 0) phi -= turns * (static_cast<ld>(kTwoPiHi) + kTwoPiLo);
     ims += phi;
   }
