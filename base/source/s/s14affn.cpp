@@ -104,6 +104,8 @@ std::complex<double> s14affn(std::complex<double> z, int k, char* errbuf, int& i
     return {0.0, 0.0};
   }
   if (y < 0.0) im = -im;
+  // On the real axis the value is real: +0, whatever sign the sums left.
+  if (y == 0.0) im = 0.0;
   zeb::errbuf_close(errbuf, 0, ifail);
   return {re, im};
 }
