@@ -56,14 +56,18 @@ void s14ccxn(double a, double b, double x, double& w, double& w1) {
   }
   const double tsq = a + 0.5 * (b - 1.0);
 
-  // c_n: psi = exp((b-1) sum_k l_k w^k), w = s^2, l_k = b_k / (2k).
+  // c_n: psi = exp((b-1) sum_k l_k w^k), w = s^2, l_k = b_k / (2k), so that
+  // n c_n = (b-1) sum_k k l_k c_(n-k) = ((b-1)/2) sum_k b_k c_(n-k). Each is
+  // built as the sum reaches it: the sum stops after a few terms for most
+  // arguments.
   double c[kN + 1];
   c[0] = 1.0;
-  for (int n = 1; n <= kN; ++n) {
+  const double hb = 0.5 * (b - 1.0);
+  auto coef = [&](int n) {
     double acc = 0.0;
-    for (int k = 1; k <= n; ++k) acc += k * (kBern[k - 1] / (2.0 * k)) * c[n - k];
-    c[n] = (b - 1.0) * acc / n;
-  }
+    for (int k = 1; k <= n; ++k) acc += kBern[k - 1] * c[n - k];
+    c[n] = hb * acc / n;
+  };
 
   char eb[zeb::errbuf_len];
   int fail = 0;
@@ -83,6 +87,7 @@ void s14ccxn(double a, double b, double x, double& w, double& w1) {
     double r = r0;
     double tn = 1.0;
     for (int n = 0; n <= kN; ++n) {
+      if (n > 0) coef(n);
       const double term = c[n] * tn * g;
       sum += term;
       if (n > 0 && std::fabs(term) <= eps * std::fabs(sum)) break;
@@ -101,6 +106,7 @@ void s14ccxn(double a, double b, double x, double& w, double& w1) {
     for (int n = 0; n <= kN; ++n) {
       double g = p;
       if (n > 0) {
+        coef(n);
         const double sv = b + 2.0 * n;
         double term = 1.0 / sv;
         double ser = term;
