@@ -83,3 +83,6 @@ long double s14cbun(double a, double b);
 // ln(x^a y^b / B(a, b)), y = 1 - x given apart, for a, b > 0,
 // 0 < x, y <= 1 (s14ccwn.cpp).
 long double s14ccwn(double a, double b, double x, double y);
+// ln(gamma(a+b) / (gamma(1+a) gamma(b))) = -ln(a B(a, b)) for 0 < a <= 1,
+// b > 0, accurate as a goes to 0 (s14ccvn.cpp).
+long double s14ccvn(double a, double b);

@@ -99,7 +99,8 @@ ld fraction(ld a, ld b, ld x, ld tol, int& code) {
 
 // The tail I_x(a, b), x <= (a+1)/(a+b+2), in extended precision, with
 // lf = ln(x^a y^b / B(a,b)); code 3 where the fraction does not settle.
-ld tail(double a, double b, double x, double y, ld lf, double eps, int& code) {
+// Where the power series is taken, its sum S in s (else s stays NaN).
+ld tail(double a, double b, double x, double y, ld lf, double eps, int& code, ld& s) {
   if (x <= 0.5 && (b <= 1.0 || b * x <= 1.0)) {
     // x^a / B = exp(lf - b ln y); with b <= 1 every term is positive, with
     // b x <= 1 they fall at least as fast as those of e^-1.
@@ -108,10 +109,11 @@ ld tail(double a, double b, double x, double y, ld lf, double eps, int& code) {
     ld sum = 0.0L;
     for (int n = 1; n <= kMaxTerms; ++n) {
       c *= (n - static_cast<ld>(b)) * x / n;
-      const ld term = c / (a + n);
+      const ld term = c / (static_cast<ld>(a) + n);
       sum += term;
       if (fabsl(term) <= 0.0625L * eps * fabsl(sum) || c == 0.0L) break;
     }
+    s = sum;
     return f * (1.0L + a * sum);
   }
   const ld g = fraction(a, b, x, eps / 64.0L, code);
@@ -161,6 +163,34 @@ ld complement(double a, double b, double y, ld lf, double eps) {
   return -1.0L;
 }
 
+// e^t - 1 with the relative accuracy of a small t: the Taylor series to
+// t^10/10! for |t| < 1/32 (the rest below 2^-64 of t), else e^t less 1,
+// which loses no more than 5 bits there.
+ld expm1_ext(ld t) {
+  if (fabsl(t) < 0.03125L) {
+    ld p = 1.0L / 3628800.0L;
+    constexpr ld kInv[9] = {1.0L / 362880.0L, 1.0L / 40320.0L, 1.0L / 5040.0L,
+                            1.0L / 720.0L,    1.0L / 120.0L,   1.0L / 24.0L,
+                            1.0L / 6.0L,      0.5L,            1.0L};
+    for (const ld c : kInv) p = p * t + c;
+    return p * t;
+  }
+  return s14cbwn(t) - 1.0L;
+}
+
+// 1 - I_x(a, b) for a <= 1 from the sum S of the power series: with
+// I_x(a, b) = e^L (1 + a S), L = a ln x + ln(gamma(a+b)/(gamma(1+a) gamma(b))),
+// 1 - I_x(a, b) = -(e^L - 1) - e^L a S. As a goes to 0 both L and a S go
+// to 0 with a and 1 - I with them; the logarithm of the gamma ratio comes
+// from s14ccvn, accurate to a small multiple of 2^-64 a (1/b + ln(b+13)),
+// so that 1 - I keeps its digits where the positive series of the
+// complement would take thousands of terms (y near 1).
+ld complement_small_a(double a, double b, double x, ld s) {
+  const ld l = a * s14cbyn(x) + s14ccvn(a, b);
+  const ld r = -expm1_ext(l) - s14cbwn(l) * (a * s);
+  return r > 0.0L ? r : 0.0L;
+}
+
 }  // namespace
 
 int s14cczn(double a, double b, double x, double y, double& w, double& w1) {
@@ -198,12 +228,17 @@ int s14cczn(double a, double b, double x, double y, double& w, double& w1) {
   }
   const ld lf = s14ccwn(a, b, x, y);  // ln(x^a y^b / B(a,b))
   int code = 0;
-  ld t = tail(a, b, x, y, lf, eps, code);
+  ld s = __builtin_nanl("");
+  ld t = tail(a, b, x, y, lf, eps, code, s);
   if (t > 1.0L) t = 1.0L;
   ld u = 1.0L - t;
   if (u < 0.25L) {
-    const ld c = complement(a, b, y, lf, eps);
-    if (c >= 0.0L) u = c;
+    if (a <= 1.0 && s == s) {
+      u = complement_small_a(a, b, x, s);
+    } else {
+      const ld c = complement(a, b, y, lf, eps);
+      if (c >= 0.0L) u = c;
+    }
   }
   w = static_cast<double>(flip ? u : t);
   w1 = static_cast<double>(flip ? t : u);
