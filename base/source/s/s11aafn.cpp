@@ -2,17 +2,20 @@
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
-// atanh(x) - x for x^2 <= 1/2 (s11aazn.cpp).
-double s11aazn(double x);
+// atanh x for x^2 <= 1/2, and ln(2^k (hi + lo)), both in the x87 extended
+// format (s11aazn.cpp; zeb_ext.h).
+long double s11aayn(double x);
+long double s11aaxn(double hi, double lo, int k);
 
-// x^2 <= 0.5: x + x^3/3 + x^5 S(x^2). Above: (1/2) ln q, q the rounded quotient
-// (1 + a)/(1 - a), a = abs x. With 1 - a exact and 1 + a as hi + lo, the
-// remainder e = (1 + a) - q (1 - a) is exact, and the true quotient
-// q + e/(1 - a) enters as ln q + e/(1 + a), a correction of an ulp or so.
+// x^2 <= 0.5: x + x^3/3 + x^5 S(x^2). Above: (1/2) ln((1 + a)/(1 - a)),
+// a = abs x, the quotient to 2^-64 in the extended format (it is at least
+// 5.8, so that its rounding costs the logarithm nothing). Either is summed
+// in the extended format and rounded to double once.
 double s11aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   const double a = std::fabs(x);
@@ -27,14 +30,18 @@ double s11aafn(double x, char* errbuf, int& ifail) {
     // Also a NaN, which passes through. Below x02ajf, atanh x = x + x^3/3
     // rounds to x (and x^2 would underflow).
     if (a < x02ajfn()) return x;
-    return x + s11aazn(x);
+    zeb::ext::Precision guard(x);
+    double v = static_cast<double>(s11aayn(x));
+    guard.release(v);
+    return v;
   }
-  const double d = 1.0 - a;  // exact for a in [1/2, 1]
-  const zeb::dd::dd n = zeb::dd::two_sum(1.0, a);
-  const double q = n.hi / d;
-  const zeb::dd::dd qd = zeb::dd::two_prod(q, d);
-  const double e = ((n.hi - qd.hi) - qd.lo) + n.lo;  // (1 + a) - q d, exact
-  // e/(1 + a) needs a few bits only: 1/(2 - d) = (1 + d/2 + d^2/4)/2 to 1/600
-  // for d = 1 - a <= 0.293.
-  return std::copysign(0.5 * (std::log(q) + e * (0.5 + d * (0.25 + d * 0.125))), x);
+  // q = (1 + a)/(1 - a), 1 + a and 1 - a exact in the extended format, as
+  // hi + lo.
+  zeb::ext::Precision guard(x);
+  const zeb::ext::ld q = (1.0L + a) / (1.0 - a);
+  const double hi = static_cast<double>(q);
+  const double lo = static_cast<double>(q - hi);
+  double v = static_cast<double>(0.5L * s11aaxn(hi, lo, 0));
+  guard.release(v);
+  return std::copysign(v, x);
 }

@@ -1,7 +1,9 @@
 // arsinh x.
 #include <cmath>
+#include <cstddef>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_series.h"
 #include "zeb_x_ib.h"
@@ -38,41 +40,68 @@ constexpr double kAsinhS[20] = {
 };
 // </fit_elem:asinh>
 
-// ln 2 = kLn2Hi + kLn2Lo (mpmath, 50 digits).
-constexpr double kLn2Hi = 0.6931471805599453;
-constexpr double kLn2Lo = 2.3190468138462996e-17;
+// The polynomial of the first M entries of c (from the highest power) at u,
+// by two Horner chains in u^2.
+template <std::size_t M, std::size_t N>
+inline double head2(double u, const double (&c)[N]) {
+  static_assert(M >= 3 && M <= N);
+  const double s = u * u;
+  double a = c[0];  // the powers M-1, M-3, ...
+  double b = c[1];  // the powers M-2, M-4, ...
+  std::size_t i = 2;
+  for (; i + 1 < M; i += 2) {
+    a = a * s + c[i];
+    b = b * s + c[i + 1];
+  }
+  if constexpr (M % 2 == 0) {
+    return a * u + b;
+  } else {
+    return b * u + (a * s + c[M - 1]);
+  }
+}
 
 }  // namespace
 
-// abs(x) <= 1: x - x^3/6 + x^5 S(x^2).
-// Up to 1e9: ln(t), t = a + sqrt(1 + a^2),
-// a = abs x, with the rounding errors of a^2, of 1 + a^2, of the square root
-// and of the sum carried as the low part tl of t, which enters as
-// ln(t + tl) = ln t + tl/t. Beyond 1e9, where sqrt(1 + a^2) rounds to a:
-// ln a + ln 2. The sign is that of x.
+// ln(2^k (hi + lo)) in the x87 extended format (s11aazn.cpp; zeb_ext.h).
+long double s11aaxn(double hi, double lo, int k);
+
+// abs(x) <= 1: x + x u (-1/6 + u S(u)), u = x^2, in the extended format but
+// for the ten highest terms of S, at most 1/60 of the value, which are
+// summed in double.
+// Up to 1e9: ln(t), t = a + sqrt(1 + a^2), a = abs x, formed in the
+// extended format and passed as hi + lo to the extended logarithm (t >= 2.4,
+// so that its relative error of a few 2^-64 costs nothing). Beyond 1e9,
+// where sqrt(1 + a^2) rounds to a: ln(2a), as the same logarithm of a with
+// one more power of 2. The sign is that of x; the value is rounded to
+// double once.
 double s11abfn(double x) {
   const double a = std::fabs(x);
   if (a <= 1.0) {
     // Below x02ajf, asinh x = x - x^3/6 rounds to x (and x^2 would underflow).
     if (a < x02ajfn()) return x;
-    return x + zeb::series::odd_tail_plain<-6>(x, kAsinhS);
+    zeb::ext::Precision guard(x);
+    const zeb::ext::ld xl = x;
+    const zeb::ext::ld u = xl * xl;
+    zeb::ext::ld p = head2<10>(x * x, kAsinhS);
+    for (std::size_t k = 10; k < 20; ++k) p = p * u + kAsinhS[k];
+    double v = static_cast<double>(xl + xl * u * (p * u - 1.0L / 6));
+    guard.release(v);
+    return v;
   }
+  if (!(a <= x02alfn())) return x;  // an infinity or a NaN
+  zeb::ext::Precision guard(x);
   double v;
   if (a <= 1.0e9) {
-    const zeb::dd::dd p = zeb::dd::two_prod(a, a);
-    const zeb::dd::dd w = zeb::dd::two_sum(1.0, p.hi);  // 1 + a^2 = w + p.lo
-    const double s = std::sqrt(w.hi);
-    const zeb::dd::dd s2 = zeb::dd::two_prod(s, s);
-    // The square root's low part sl = ds / 2s and the sum's low part join in
-    // one quotient: (t.lo + sl) / t = (2s t.lo + ds) / (2s t).
-    const double ds = ((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo);
-    const zeb::dd::dd t = zeb::dd::two_sum(a, s);
-    v = std::log(t.hi) + (2.0 * s * t.lo + ds) / (2.0 * s * t.hi);
-  } else if (a <= x02alfn()) {
-    const zeb::dd::dd l = zeb::dd::two_sum(std::log(a), kLn2Hi);
-    v = l.hi + (l.lo + kLn2Lo);
+    // t = a + sqrt(1 + a^2) to 2^-62 in the extended format, as hi + lo with
+    // a - hi exact.
+    const zeb::ext::ld al = a;
+    const zeb::ext::ld s = sqrtl(1.0L + al * al);
+    const double hi = static_cast<double>(al + s);
+    const double lo = static_cast<double>((al - hi) + s);
+    v = static_cast<double>(s11aaxn(hi, lo, 0));
   } else {
-    return x;  // an infinity or a NaN
+    v = static_cast<double>(s11aaxn(0.5 * a, 0.0, 2));  // 0.5 a exact, below 2^1022
   }
+  guard.release(v);
   return std::copysign(v, x);
 }

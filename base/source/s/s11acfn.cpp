@@ -2,23 +2,18 @@
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_x_ib.h"
 
-namespace {
+// ln(2^k (hi + lo)) in the x87 extended format (s11aazn.cpp; zeb_ext.h).
+long double s11aaxn(double hi, double lo, int k);
 
-// ln 2 = kLn2Hi + kLn2Lo (mpmath, 50 digits).
-constexpr double kLn2Hi = 0.6931471805599453;
-constexpr double kLn2Lo = 2.3190468138462996e-17;
-
-}  // namespace
-
-// Exactly 0 at 1. Up to 1e9: ln(t), t = x + sqrt(x^2 - 1), with the rounding
-// errors of x^2 and of the square root and of the sum carried as the low part
-// tl of t, which enters as ln(t + tl) = ln t + tl/t; x^2 - 1 is formed from
-// the exact square, so that near 1, where it is all cancellation, nothing is
-// lost. Beyond 1e9: ln x + ln 2.
+// Exactly 0 at 1. Up to 1e9: ln(t), t = x + sqrt(x^2 - 1), formed in the
+// extended format and passed as hi + lo to the extended logarithm, which
+// keeps hi - 1 exact near 1. Beyond 1e9: ln(2x), as the same logarithm of
+// x/2 with two more powers of 2. The value is rounded to double once.
 double s11acfn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
   if (x < 1.0) {
@@ -28,20 +23,21 @@ double s11acfn(double x, char* errbuf, int& ifail) {
   }
   zeb::errbuf_close(errbuf, 0, ifail);
   if (x == 1.0) return 0.0;
+  if (!(x <= x02alfn())) return x;  // an infinity or a NaN
+  zeb::ext::Precision guard(x);
+  double v;
   if (x <= 1.0e9) {
-    const zeb::dd::dd p = zeb::dd::two_prod(x, x);
-    const zeb::dd::dd w = zeb::dd::two_sum(p.hi, -1.0);  // x^2 - 1 = w + p.lo
-    const double s = std::sqrt(w.hi);
-    const zeb::dd::dd s2 = zeb::dd::two_prod(s, s);
-    // The square root's low part sl = ds / 2s and the sum's low part join in
-    // one quotient: (t.lo + sl) / t = (2s t.lo + ds) / (2s t).
-    const double ds = ((w.hi - s2.hi) - s2.lo) + (w.lo + p.lo);
-    const zeb::dd::dd t = zeb::dd::two_sum(x, s);
-    return std::log(t.hi) + (2.0 * s * t.lo + ds) / (2.0 * s * t.hi);
+    // x^2 - 1 = (x - 1)(x + 1) with both factors exact, and t = x + s as
+    // hi + lo with x - hi exact: t - 1 = (x - 1) + s keeps its relative
+    // accuracy next to 1, where it is about sqrt(2 (x - 1)).
+    const zeb::ext::ld xl = x;
+    const zeb::ext::ld s = sqrtl((xl - 1.0L) * (xl + 1.0L));
+    const double hi = static_cast<double>(xl + s);
+    const double lo = static_cast<double>((xl - hi) + s);
+    v = static_cast<double>(s11aaxn(hi, lo, 0));
+  } else {
+    v = static_cast<double>(s11aaxn(0.5 * x, 0.0, 2));  // 0.5 x exact, below 2^1022
   }
-  if (x <= x02alfn()) {
-    const zeb::dd::dd l = zeb::dd::two_sum(std::log(x), kLn2Hi);
-    return l.hi + (l.lo + kLn2Lo);
-  }
-  return x;  // an infinity or a NaN
+  guard.release(v);
+  return v;
 }
