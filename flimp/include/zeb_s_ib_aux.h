@@ -17,6 +17,15 @@ void s20aczn(double a, double& f, double& g);
 // exactly so that the result is accurate for large a (s20acyn.cpp).
 void s20acyn(double a, double& s, double& c);
 
+// The inverse hyperbolic kernels (s11aazn.cpp): atanh(x) - x for
+// x^2 <= 1/2 in double (s11aazn), atanh x for x^2 <= 1/2 in the x87
+// extended format (s11aayn), and ln(2^k (hi + lo)) in the extended format
+// for hi + lo > 0 (s11aaxn); the extended ones need the 64-bit precision
+// control (zeb::ext::Precision) held by the caller.
+double s11aazn(double x);
+long double s11aayn(double x);
+long double s11aaxn(double hi, double lo, int k);
+
 // ---------------------------------------------------------------------------
 // Gamma-function kernels: scaled log gamma, polygamma, incomplete gamma and
 // the beta functions of the statistics chapters.

@@ -5,12 +5,8 @@
 #include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
-
-// atanh x for x^2 <= 1/2, and ln(2^k (hi + lo)), both in the x87 extended
-// format (s11aazn.cpp; zeb_ext.h).
-long double s11aayn(double x);
-long double s11aaxn(double hi, double lo, int k);
 
 // x^2 <= 0.5: x + x^3/3 + x^5 S(x^2). Above: (1/2) ln((1 + a)/(1 - a)),
 // a = abs x, the quotient to 2^-64 in the extended format (it is at least

@@ -5,6 +5,7 @@
 #include "zeb_dd.h"
 #include "zeb_ext.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_ib_aux.h"
 #include "zeb_s_series.h"
 #include "zeb_x_ib.h"
 
@@ -61,9 +62,6 @@ inline double head2(double u, const double (&c)[N]) {
 }
 
 }  // namespace
-
-// ln(2^k (hi + lo)) in the x87 extended format (s11aazn.cpp; zeb_ext.h).
-long double s11aaxn(double hi, double lo, int k);
 
 // abs(x) <= 1: x + x u (-1/6 + u S(u)), u = x^2, in the extended format but
 // for the ten highest terms of S, at most 1/60 of the value, which are

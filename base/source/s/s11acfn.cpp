@@ -5,10 +5,8 @@
 #include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
-
-// ln(2^k (hi + lo)) in the x87 extended format (s11aazn.cpp; zeb_ext.h).
-long double s11aaxn(double hi, double lo, int k);
 
 // Exactly 0 at 1. Up to 1e9: ln(t), t = x + sqrt(x^2 - 1), formed in the
 // extended format and passed as hi + lo to the extended logarithm, which

@@ -4,11 +4,9 @@
 #include "zeb_dd.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_ib_aux.h"
 #include "zeb_s_series.h"
 #include "zeb_x_ib.h"
-
-// atanh(x) - x for x^2 <= 1/2 (s11aazn.cpp).
-double s11aazn(double x);
 
 // F(x) - 1 and G(x) - 1 for x >= 16, F(x) = x f(x), G(x) = x^2 g(x), f and g
 // the auxiliary functions (s13aczn.cpp).
