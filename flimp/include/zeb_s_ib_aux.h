@@ -20,7 +20,7 @@ void s20acyn(double a, double& s, double& c);
 // The inverse hyperbolic kernels (s11aazn.cpp): atanh(x) - x for
 // x^2 <= 1/2 in double (s11aazn), atanh x for x^2 <= 1/2 in the x87
 // extended format (s11aayn), and ln(2^k (hi + lo)) in the extended format
-// for hi + lo > 0 (s11aaxn); the extended ones need the 64-bit precision
+// for 2^-1022 <= hi < 2^1022 (s11aaxn); the extended ones need the 64-bit precision
 // control (zeb::ext::Precision) held by the caller.
 double s11aazn(double x);
 long double s11aayn(double x);

@@ -228,7 +228,7 @@ long double s11aayn(double x) {
   return xl + xl * u * (p * u + 1.0L / 3);
 }
 
-// ln(2^k (hi + lo)) in the extended format, for 1 <= hi < 2^1022,
+// ln(2^k (hi + lo)) in the extended format, for 2^-1022 <= hi < 2^1022,
 // |lo| at most an ulp or two of hi, and a caller that holds a
 // zeb::ext::Precision. With hi = 2^e m, m in [1, 2), and c the reciprocal of
 // the midpoint of m's bin (kLnRed), ln(hi + lo) = e ln 2 - ln c + ln(1 + r),
@@ -237,14 +237,26 @@ long double s11aayn(double x) {
 // ln(1 + r) is r in 64 bits plus -r^2/2 + r^3/3 - ... - r^8/8 in double,
 // from r rounded to double: that part is below 2^-14 of the value, and the
 // truncation below 2^-63 of it. e ln 2 - ln c is the exact double
-// e kLn2Hi + hi plus e kLn2Lo + lo, which joins the double part. In the first bin, c = 1 and ln c = 0, so
-// that r = hi - 1 + lo with hi - 1 exact, and the value keeps its relative
-// accuracy next to 1.
+// e kLn2Hi + hi plus e kLn2Lo + lo, which joins the double part. In the
+// first bin, c = 1 and ln c = 0, so that r = hi - 1 + lo with hi - 1 exact,
+// and the value keeps its relative accuracy just above 1; in the last,
+// m/2 in [1 - 2^-7, 1) takes the place of m, with c = 1 and e + 1 for e, so
+// that it keeps it just below 1 too.
 long double s11aaxn(double hi, double lo, int k) {
   const auto bits = std::bit_cast<std::uint64_t>(hi);
-  const int eb = static_cast<int>(bits >> 52) - 1023;
+  int eb = static_cast<int>(bits >> 52) - 1023;
   const std::size_t i = (bits >> 45) & 127;
-  const double cs = kLnRed[i][0] * pow2(-eb);  // c 2^-e, exact
+  double cs = 0.0;  // c 2^-e, exact
+  double lnc_hi = 0.0;
+  double lnc_lo = 0.0;
+  if (i == 127) {
+    cs = 0.5 * pow2(-eb);  // 2^-1023 at the top of the range: exact
+    ++eb;
+  } else {
+    cs = kLnRed[i][0] * pow2(-eb);
+    lnc_hi = kLnRed[i][1];
+    lnc_lo = kLnRed[i][2];
+  }
   const ld r = (static_cast<ld>(hi) * cs - 1.0L) + lo * cs;
   const double rd = static_cast<double>(r);
   const double r2 = rd * rd;
@@ -252,6 +264,6 @@ long double s11aaxn(double hi, double lo, int k) {
   const double tail =
       (rd * r2) * ((1.0 / 3 - rd * 0.25) + r2 * ((0.2 - rd * (1.0 / 6)) + r2 * (1.0 / 7 - rd * 0.125)));
   const double e = eb + k;
-  const double low = (tail - 0.5 * r2) + (e * kLn2Lo + kLnRed[i][2]);
-  return static_cast<ld>(e * kLn2Hi + kLnRed[i][1]) + (r + low);
+  const double low = (tail - 0.5 * r2) + (e * kLn2Lo + lnc_lo);
+  return static_cast<ld>(e * kLn2Hi + lnc_hi) + (r + low);
 }
