@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 """Coefficient tables of the incomplete gamma functions (s14bafn, s14bazn).
 
-1. The Taylor polynomial of 1/gamma(1+a) for 0 < a <= 1/2:
-     1/gamma(1+a) = 1 + c_2 a + a^2 (c_3 + c_4 a + ... + c_23 a^20),
+1. The Taylor polynomial of 1/gamma(1+b) for |b| <= 1/2:
+     1/gamma(1+b) = 1 + c_2 b + b^2 (c_3 + c_4 b + ... + c_23 b^20),
    the 21 coefficients c_23 .. c_3 of the bracket from the highest power
    (the Taylor coefficients of 1/gamma(z) = sum_k c_k z^k, by mpmath at 50
-   digits), with the truncation error on (0, 1/2].
+   digits), each split into hi + lo doubles, with the truncation error on
+   |b| <= 1/2.
 
 2. Temme's uniform asymptotic expansion of Q(a, x) near the transition,
      Q(a, x) = (1/2) erfc(eta sqrt(a/2)) + R,
@@ -141,9 +142,9 @@ def temme_coefficients():
 
 
 def rgamma_taylor():
-    t = taylor(rgamma, 0, 24)   # 1/gamma(z) = sum t[k] z^k; t[1] = 1
+    t = taylor(rgamma, 0, 26)   # 1/gamma(z) = sum t[k] z^k; t[1] = 1
     # 1/gamma(1+a) = (1/a) (1/gamma(a)) = sum_k t[k+1] a^k
-    c = [t[k] for k in range(25)]
+    c = [t[k] for k in range(26)]
     return c
 
 
@@ -160,15 +161,27 @@ def temme_q(a, x, cs):
 
 def main():
     c = rgamma_taylor()
-    print("// 1/gamma(1+a) = 1 + c_2 a + a^2 (c_3 + c_4 a + ... + c_23 a^20): the")
-    print("// Taylor coefficients c_23 .. c_3 from the highest power, by mpmath at 50")
-    print("// digits (tools/refdata/fit_s14ba.py). Truncation error on (0, 1/2]: "
-          f"{float(abs(c[24]) * mpf(0.5)**23):.1e}.")
-    print(f"// c_2 = {float(c[2])!r} (Euler's constant).")
-    print("constexpr double kRgam[21] = {")
+    # Each coefficient as a pair hi + lo of doubles, so that the polynomial
+    # can be summed in the x87 extended format with its 64 bits.
+    def pair(v):
+        hi = float(v)
+        return hi, float(v - mpf(hi))
+    # The polynomial serves b = a, a - 1 or a - 2 on [-1/2, 1/2] (1/gamma(1+a)
+    # from 1/gamma(1+b) by the recurrence); the first term left out and the
+    # next give the truncation error there.
+    trunc = abs(c[24]) * mpf(0.5)**24 + abs(c[25]) * mpf(0.5)**25
+    print("// 1/gamma(1+b) = 1 + c_2 b + b^2 (c_3 + c_4 b + ... + c_23 b^20): the")
+    print("// Taylor coefficients c_23 .. c_3 from the highest power, each as")
+    print("// hi + lo, by mpmath at 50 digits (tools/refdata/fit_s14ba.py).")
+    print("// Truncation error on |b| <= 1/2: "
+          f"{float(trunc):.1e}.")
+    print("constexpr double kRgam[21][2] = {")
     for k in range(23, 2, -1):
-        print(f"    {float(c[k])!r},")
+        hi, lo = pair(c[k])
+        print(f"    {{{hi!r}, {lo!r}}},")
     print("};")
+    hi, lo = pair(c[2])
+    print(f"constexpr double kEuler[2] = {{{hi!r}, {lo!r}}};  // c_2")
 
     cs = temme_coefficients()
     worst = mpf(0)

@@ -19,6 +19,7 @@
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_ib_aux.h"
@@ -26,53 +27,84 @@
 
 namespace {
 
+using zeb::ext::ld;
+
 constexpr int kMaxIter = 600;
 
-// 1/gamma(1+a) = 1 + c_2 a + a^2 (c_3 + c_4 a + ... + c_23 a^20): the
-// Taylor coefficients c_23 .. c_3 from the highest power, by mpmath at 50
-// digits (tools/refdata/fit_s14ba.py); c_23 is -2.058326054e-14 to ten
-// digits. Truncation error on (0, 1/2]: 6.4e-22.
-constexpr double kRgam[21] = {
-    -2.0583260535665066e-14,
-    5.100370287454476e-13,
-    -3.696805618642206e-12,
-    7.782263439905071e-12,
-    1.0434267116911005e-10,
-    -1.18127457048702e-09,
-    5.002007644469223e-09,
-    6.116095104481416e-09,
-    -2.056338416977607e-07,
-    1.133027231981696e-06,
-    -1.2504934821426706e-06,
-    -2.013485478078824e-05,
-    0.0001280502823881162,
-    -0.00021524167411495098,
-    -0.0011651675918590652,
-    0.0072189432466631,
-    -0.009621971527876973,
-    -0.04219773455554433,
-    0.16653861138229148,
-    -0.04200263503409524,
-    -0.6558780715202539,
+// 1/gamma(1+b) = 1 + c_2 b + b^2 (c_3 + c_4 b + ... + c_23 b^20): the
+// Taylor coefficients c_23 .. c_3 from the highest power, each as
+// hi + lo, by mpmath at 50 digits (tools/refdata/fit_s14ba.py).
+// Truncation error on |b| <= 1/2: 3.6e-22.
+constexpr double kRgam[21][2] = {
+    {-2.0583260535665066e-14, -1.4747481491954336e-30},
+    {5.100370287454476e-13, 2.253001461085878e-29},
+    {-3.696805618642206e-12, 2.7050034921703885e-28},
+    {7.782263439905071e-12, 4.397255556595848e-28},
+    {1.0434267116911005e-10, -2.9298419956825035e-27},
+    {-1.18127457048702e-09, -1.0052356155716208e-25},
+    {5.002007644469223e-09, -1.538123614056751e-26},
+    {6.116095104481416e-09, -2.693458298171306e-25},
+    {-2.056338416977607e-07, -3.0061601618645134e-24},
+    {1.133027231981696e-06, -4.622235212104869e-23},
+    {-1.2504934821426706e-06, -2.66214092271898e-23},
+    {-2.013485478078824e-05, 3.0488773972037385e-23},
+    {0.0001280502823881162, -9.359124499198967e-21},
+    {-0.00021524167411495098, 2.3758686180729364e-21},
+    {-0.0011651675918590652, 5.659947853880981e-20},
+    {0.0072189432466631, -3.6006537063394283e-19},
+    {-0.009621971527876973, -5.300031368830263e-19},
+    {-0.04219773455554433, -3.3579992682480134e-18},
+    {0.16653861138229148, 1.0189144546842026e-17},
+    {-0.04200263503409524, 1.4920306285650505e-18},
+    {-0.6558780715202539, 2.137185197068536e-17},
 };
-constexpr double kEuler = 0.5772156649015329;  // c_2
+constexpr double kEuler[2] = {0.5772156649015329, -4.942915152430645e-18};  // c_2
+
+constexpr zeb::ext::Pairs<21> kRgamExt(kRgam);
 
 constexpr double kLn2 = 0.6931471805599453;
 constexpr double kHalfLn2PiHi = 0.9189385332046728;
 constexpr double kHalfLn2PiLo = -3.8782941580672414e-17;
 
-// ln(x^a e^-x / gamma(a+1)) as hi + lo, so that the exponential of it is
-// right to about an ulp whatever the size of the terms that make it up.
-zeb::dd::dd log_factor(double a, double x, double lgam1) {
-  using namespace zeb::dd;
-  if (a <= 1.0) {
-    dd r = mul(zeb::dd::log(x), a);
-    r = add(r, -x);
-    return add(r, -lgam1);
+// Above this a + 1 may lie beyond the range of ln gamma (s14abfn's code 2).
+constexpr double kLgamCheck = 1e300;
+
+// 1/gamma(1+a) - 1 and 1/gamma(1+a) for 0 < a <= 7/4 in extended precision:
+// 1/gamma(1+b) = 1 + b (c_2 + b poly(b)) on |b| <= 1/2, b = a, a - 1 or
+// a - 2 (exact), and 1/gamma(1+a) = 1/gamma(1+b) / (a (a-1) ...).
+void rgamma1(double a, ld& gm1, ld& g) {
+  const double b = a <= 0.5 ? a : (a <= 1.5 ? a - 1.0 : a - 2.0);
+  const ld lb = b;
+  const ld poly = zeb::ext::horner<2>(kRgamExt, lb);
+  const ld bm1 = lb * ((static_cast<ld>(kEuler[0]) + kEuler[1]) + lb * poly);
+  if (a <= 0.5) {
+    gm1 = bm1;
+    g = 1.0L + bm1;
+  } else {
+    const ld la = a;
+    g = (1.0L + bm1) / (a <= 1.5 ? la : la * (la - 1.0L));
+    gm1 = g - 1.0L;
   }
-  // phi(lambda) = lambda - 1 - ln(lambda), lambda = x/a: near 1 as phi(mu)
-  // of mu = (x - a)/a, x - a being exact within a factor 2 of a; away from
-  // 1 directly, with lambda and its logarithm in double-double.
+}
+
+// e^y - 1 for |y| <= 3/4 by its Taylor series to y^20/20!, the rest below
+// 2^-70 of the value.
+ld expm1_small(ld y) {
+  ld s = 1.0L;
+  for (int n = 20; n >= 2; --n) s = 1.0L + s * y / n;
+  return y * s;
+}
+
+// ln(x^a e^-x / gamma(a+1)) as hi + lo for a > 1, so that the exponential
+// of it is right to well below an ulp whatever the size of the terms that
+// make it up: exp(-a phi(x/a) - D(a)) / sqrt(2 pi a), phi(l) = l - 1 - ln l
+// and D the correction to Stirling's formula, so that its error grows with
+// a phi rather than with a ln x.
+zeb::dd::dd log_factor(double a, double x) {
+  using namespace zeb::dd;
+  // phi(lambda) near 1 as phi(mu) of mu = (x - a)/a, x - a being exact
+  // within a factor 2 of a; away from 1 directly, with lambda and its
+  // logarithm in double-double.
   const dd lam = div(dd{x, 0.0}, a);
   dd phi;
   if (std::fabs(lam.hi - 1.0) <= 0.5) {
@@ -90,10 +122,22 @@ zeb::dd::dd log_factor(double a, double x, double lgam1) {
   return add(r, la);
 }
 
-// exp of hi + lo.
-double exp_dd(zeb::dd::dd v) {
-  const double e = std::exp(v.hi);
-  return e + e * v.lo;
+// x^a e^-x / gamma(a+1) in extended precision, with the logarithm of its
+// double part in lnf: for a > 1 from log_factor, for a <= 1 as
+// e^(a ln x - x) (the exponent in double-double) times 1/gamma(1+a).
+ld factor(double a, double x, double& lnf) {
+  zeb::dd::dd v;
+  ld g = 1.0L;
+  if (a <= 1.0) {
+    ld gm1;
+    rgamma1(a, gm1, g);
+    v = zeb::dd::add(zeb::dd::mul(zeb::dd::log(x), a), -x);
+  } else {
+    v = log_factor(a, x);
+  }
+  lnf = v.hi;
+  const ld e = s14cbwn(v.hi);
+  return (e + e * v.lo) * g;
 }
 
 }  // namespace
@@ -120,7 +164,11 @@ void s14bafn(double a, double x, double tol, double& p, double& q, char* errbuf,
   }
   double eps = x02ajfn();
   if (eps < 1e-18) eps = 1e-18;
-  if (tol > eps && tol <= 1.0) eps = tol;
+  // A TOL of the caller's above the machine precision stops each sum at it,
+  // as TOL asks; otherwise the sums go on to (or add) their rest so that
+  // the result is right to the last bit.
+  const bool full = !(tol > eps && tol <= 1.0);
+  if (!full) eps = tol;
 
   if (a >= 20.0 && 0.7 * a <= x && x <= 1.4 * a) {
     const double t = s14bazn(a, x, eps);
@@ -136,53 +184,55 @@ void s14bafn(double a, double x, double tol, double& p, double& q, char* errbuf,
   }
 
   const double alpha = x >= 0.25 ? x + 0.25 : -kLn2 / std::log(x);
-  char eb[zeb::errbuf_len];
-  int lfail = 0;
-  const double lgam1 = s14abfn(a + 1.0, eb, lfail);
-  if (lfail == 2) {
+  if (a > kLgamCheck) {
     // a + 1 beyond the range of ln gamma: the transition is a step there.
-    if (x >= a) {
-      p = 1.0;
-    } else {
-      q = 1.0;
+    // (The factor below is formed without ln gamma, which is needed only
+    // for this test, and below kLgamCheck it always succeeds.)
+    char eb[zeb::errbuf_len];
+    int lfail = 0;
+    (void)s14abfn(a + 1.0, eb, lfail);
+    if (lfail == 2) {
+      if (x >= a) {
+        p = 1.0;
+      } else {
+        q = 1.0;
+      }
+      zeb::errbuf_close(errbuf, 0, ifail);
+      return;
     }
-    zeb::errbuf_close(errbuf, 0, ifail);
-    return;
   }
-  const double lnsafe = std::log(x02amfn());
   int code = 0;
+  zeb::ext::Precision guard(a, x);
 
   if (a > alpha) {
-    // P = x^a e^-x / gamma(a+1) (1 + x/(a+1) + x^2/((a+1)(a+2)) + ...);
-    // the first three terms, which carry most of the sum, in double-double
-    // with a + k exact.
-    using namespace zeb::dd;
-    dd lead{1.0, 0.0};
-    dd tk{1.0, 0.0};
-    for (int j = 1; j <= 3; ++j) {
-      tk = div(mul(tk, x), two_sum(a, static_cast<double>(j)));
-      lead = add(lead, tk);
-    }
-    double term = tk.hi;
-    double rest = 0.0;
-    int k = 4;
+    // P = x^a e^-x / gamma(a+1) (1 + x/(a+1) + x^2/((a+1)(a+2)) + ...),
+    // summed in extended precision. Where the terms fall slowly the rest
+    // after the last is not small against the ulp of the sum: it is added
+    // as the geometric series of the next ratio, which bounds it closely.
+    const ld lx = x;
+    ld term = 1.0L;
+    ld sum = 1.0L;
+    int k = 1;
     for (; k <= kMaxIter; ++k) {
-      term *= x / (a + k);
-      rest += term;
-      if (term <= eps * lead.hi) break;
+      term *= lx / (static_cast<ld>(a) + k);
+      sum += term;
+      if (term <= eps * sum) break;
     }
-    if (k > kMaxIter) code = 3;
-    const double sum = lead.hi + (lead.lo + rest);
-    const zeb::dd::dd lf = log_factor(a, x, lgam1);
-    if (lf.hi + std::log(sum) <= lnsafe) {
+    if (k > kMaxIter) {
+      code = 3;
+    } else if (full) {
+      sum += term * lx / ((static_cast<ld>(a) + (k + 1)) - lx);
+    }
+    double lnf = 0.0;
+    const ld f = factor(a, x, lnf);
+    if (lnf + std::log(static_cast<double>(sum)) <= std::log(x02amfn())) {
       p = 0.0;
       q = 1.0;
     } else {
-      // The sum multiplies outside the exponential, whose argument then
-      // carries no more than the factor's own rounding.
-      p = sum * exp_dd(lf);
-      if (p > 1.0) p = 1.0;
-      q = 1.0 - p;
+      ld pp = f * sum;
+      if (pp > 1.0L) pp = 1.0L;
+      p = static_cast<double>(pp);
+      q = static_cast<double>(1.0L - pp);
     }
   } else if (x > 1.5) {
     if (x + 1.0 - a > 1.0 / std::sqrt(x02amfn())) {
@@ -190,82 +240,89 @@ void s14bafn(double a, double x, double tol, double& p, double& q, char* errbuf,
       q = 0.0;
     } else {
       // Q = a x^a e^-x / gamma(a+1) f, f = 1/(b_0 + a_1/(b_1 + a_2/(b_2 + ...))),
-      // a_k = k(a-k), b_k = x + 2k + 1 - a. Gautschi's recurrence sums the
-      // fraction, brought to the form (1/b_0) / (1 + c_1/(1 + c_2/(...))),
-      // c_k = a_k / (b_(k-1) b_k), as 1 + t_1 + t_2 + ..., t_k = r_k t_(k-1),
-      // r_k = -c_k (1 + r_(k-1)) / (1 + c_k (1 + r_(k-1))), and says how
-      // deep the fraction must go; the value is then taken by evaluating the
-      // fraction from that depth backwards, which does not gather the
-      // roundings of the terms as the forward sum does where it converges
-      // slowly (x near a, both small).
-      double bprev = x + 1.0 - a;  // b_0 >= 3/4
-      double r = 0.0;
-      double t = 1.0;
-      double sum = 1.0;
-      int k = 1;
+      // a_k = k(a-k), b_k = x + 2k + 1 - a: the convergents A_k/B_k by
+      // their three-term recurrence in extended precision, which has no
+      // division in its chain of dependent steps, and whose roundings stay
+      // at the level of the format's. The sum stops when a convergent moves
+      // the value by less than TOL, then goes on while the moves exceed
+      // 2^-64, the last of which are cheap, the fraction converging
+      // geometrically there. B_k grows like a factorial; a rare rescaling
+      // keeps it in range.
+      const ld la = a;
+      const ld lx = x;
+      ld ap = 1.0L;  // A_(k-1)
+      ld bp = 0.0L;  // B_(k-1)
+      ld ac = 0.0L;  // A_k
+      ld bc = 1.0L;  // B_k
+      ld fprev = 0.0L;
+      ld f = 0.0L;
+      bool met = false;
+      constexpr ld kFine = 0x1p-64L;
+      int k = 0;
       for (; k <= kMaxIter; ++k) {
-        const double bk = x + 2.0 * k + 1.0 - a;
-        const double ck = k * (a - k) / (bprev * bk);
-        const double h = ck * (1.0 + r);
-        r = -h / (1.0 + h);
-        t *= r;
-        sum += t;
-        bprev = bk;
-        if (std::fabs(t) <= eps * sum) break;
+        // Step k: numerator a_k (1 for k = 0), denominator b_k.
+        const ld ak = k == 0 ? 1.0L : k * (la - k);
+        const ld bk = (lx - la) + (2 * k + 1);
+        const ld an = bk * ac + ak * ap;
+        const ld bn = bk * bc + ak * bp;
+        ap = ac;
+        bp = bc;
+        ac = an;
+        bc = bn;
+        f = ac / bc;
+        const ld d = std::fabs(f - fprev);
+        if (d <= eps * f) met = true;
+        if (met && (!full || d <= kFine * f)) break;
+        fprev = f;
+        if (std::fabs(bc) > 0x1p8000L) {
+          ap *= 0x1p-8000L;
+          bp *= 0x1p-8000L;
+          ac *= 0x1p-8000L;
+          bc *= 0x1p-8000L;
+        }
       }
-      const int depth = (k > kMaxIter ? kMaxIter : k) + 2;
-      double v = x + 2.0 * depth + 1.0 - a;
-      for (int j = depth; j >= 1; --j) v = (x + 2.0 * j - 1.0 - a) + j * (a - j) / v;
-      const double f = 1.0 / v;
-      if (k > kMaxIter) code = 3;
+      if (!met) code = 3;
+      double lnf = 0.0;
+      ld qq = la * f * factor(a, x, lnf);
       // Below the smallest normal number Q comes back gradually underflowed.
-      q = (a * f) * exp_dd(log_factor(a, x, lgam1));
-      if (q > 1.0) q = 1.0;
-      p = 1.0 - q;
+      if (qq > 1.0L) qq = 1.0L;
+      q = static_cast<double>(qq);
+      p = static_cast<double>(1.0L - qq);
     }
   } else {
-    // Q = (1 - G) - G expm1(a ln x) - x^a G T, G = 1/gamma(1+a),
-    // T = a sum_{k>=1} (-x)^k / (k! (a+k)): the parts that cancel against 1
-    // are formed apart, and the three terms, which cancel to a value as
-    // small as a tenth of theirs, are carried in double-double; so are the
-    // first two terms of the series.
-    using namespace zeb::dd;
-    dd g;
-    dd gm1;  // G - 1
-    if (a <= 0.5) {
-      double poly = kRgam[0];
-      for (int j = 1; j < 21; ++j) poly = poly * a + kRgam[j];
-      gm1 = add(two_prod(a, kEuler), (a * a) * poly);
-      g = add(gm1, 1.0);
-    } else {
-      int gfail = 0;
-      g = recip(dd{s14aafn(1.0 + a, eb, gfail), 0.0});
-      gm1 = add(g, -1.0);
-    }
-    dd t = div(dd{-x, 0.0}, two_sum(a, 1.0));
-    t = add(t, div(mul(two_prod(x, x), 0.5), two_sum(a, 2.0)));
-    double c = 0.5 * x * x;  // (-x)^k / k!
-    double rest = 0.0;
-    int k = 3;
+    // Q = -(G - 1) - G (x^a - 1) - x^a G T and P = x^a G (1 + T),
+    // G = 1/gamma(1+a), T = a sum_{k>=1} (-x)^k / (k! (a+k)), in extended
+    // precision: the parts of Q that cancel against 1 are formed apart.
+    ld gm1;
+    ld g;
+    rgamma1(a, gm1, g);
+    const ld la = a;
+    const ld lx = x;
+    ld c = -lx;  // (-x)^k / k!
+    ld t = c / (la + 1.0L);
+    int k = 2;
     for (; k <= kMaxIter; ++k) {
-      c *= -x / k;
-      const double term = c / (a + k);
-      rest += term;
-      if (std::fabs(term) <= eps * std::fabs(t.hi)) break;
+      c *= -lx / k;
+      const ld term = c / (la + k);
+      t += term;
+      if (std::fabs(term) <= eps * std::fabs(t)) break;
     }
-    if (k > kMaxIter) code = 3;
-    t = mul(add(t, rest), a);
-    const dd alx = mul(zeb::dd::log(x), a);
-    const double em1h = std::expm1(alx.hi);
-    const dd em1 = fast_two_sum(em1h, alx.lo * (1.0 + em1h));  // x^a - 1
-    const dd xa = add(em1, 1.0);
-    dd qq = neg(gm1);
-    qq = sub(qq, mul(g, em1));
-    qq = sub(qq, mul(mul(xa, g), t));
-    q = qq.hi + qq.lo;
-    if (q < 0.0) q = 0.0;
-    p = 1.0 - q;
+    if (k > kMaxIter) {
+      code = 3;
+    } else if (full) {
+      // The series alternates with terms falling fast: the next one leaves
+      // a rest far below the ulp.
+      t += c * (-lx / (k + 1)) / (la + (k + 1));
+    }
+    t *= la;
+    const ld em1 = expm1_small(la * s14cbyn(lx));  // x^a - 1, |a ln x| < 3/4
+    const ld xg = (1.0L + em1) * g;
+    ld qq = (-gm1 - g * em1) - xg * t;
+    if (qq < 0.0L) qq = 0.0L;
+    q = static_cast<double>(qq);
+    p = static_cast<double>(xg * (1.0L + t));
   }
+  guard.release(p, q);
   if (code == 3) {
     zeb::errbuf_record(errbuf, "(3(1X,I5),1X,I20)", {3, 99997, 1, kMaxIter});
   }
