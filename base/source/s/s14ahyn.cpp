@@ -42,11 +42,11 @@ zeb::dd::dd s14ahyn(double x) {
     const double* c = kStirling;
     const double p = ((c[9] + wd * c[8]) + w2 * (c[7] + wd * c[6])) +
                      w4 * ((c[5] + wd * c[4]) + w2 * (c[3] + wd * c[2]) + w4 * (c[1] + wd * c[0]));
-    d = r * ((1.0L / 12 - w * (1.0L / 360)) + w2 * p);
+    d = ((1.0L / 12 - w * (1.0L / 360)) + w2 * p) / x;
   } else {
     // The terms from k = 3 lie below 2^-100 of the value; left out, they
     // would only take w down into the subnormal doubles, which are slow.
-    d = r * (1.0L / 12 - w * (1.0L / 360));
+    d = (1.0L / 12 - w * (1.0L / 360)) / x;
   }
   double hi = static_cast<double>(d);
   // Past 2^900, lo would be a subnormal, whose handling is slow, and carry

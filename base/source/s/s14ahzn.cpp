@@ -271,16 +271,19 @@ zeb::dd::dd s14ahzn(double x) {
   ld d;
   if (x < 0.5) {
     // (x + 1/2) ln(1 + 1/x) lies within a factor 12 of g, so g keeps all but
-    // the last bits or so of the 64.
-    const ld l = s14cbyn(1.0L + 1.0L / xl);
+    // the last bits or so of the 64. 1 + x is exact in 64 bits wherever its
+    // rounding would matter, so 1 + 1/x = (1 + x)/x rounds once.
+    const ld l = s14cbyn((1.0L + xl) / xl);
     d = ((xl + 0.5L) * l - 1.0L) + taylor(xl, kTaylor1, kTol1);
   } else if (x < 1.5) {
     d = taylor(x - 1.0, kTaylor1, kTol1);
   } else if (x < 2.5) {
     d = taylor(x - 2.0, kTaylor2, kTol2);
   } else {
+    // The sum is divided by x rather than multiplied by 1/x: one rounding
+    // fewer on the value; 1/x^2 needs but a few bits.
     const ld r = 1.0L / xl;
-    d = r * ((1.0L / 12 - r * r * (1.0L / 360)) + mid_remainder(x));
+    d = ((1.0L / 12 - r * r * (1.0L / 360)) + mid_remainder(x)) / xl;
   }
   double hi = static_cast<double>(d);
   double lo = static_cast<double>(d - hi);
