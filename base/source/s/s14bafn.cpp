@@ -95,6 +95,20 @@ ld expm1_small(ld y) {
   return y * s;
 }
 
+// ln(hi + lo) as a double-double, to the 2^-64 relative accuracy of the
+// table-reduced extended logarithm s11aaxn; hi positive, subnormal or not.
+zeb::dd::dd ln_dd(double hi, double lo) {
+  int k = 0;
+  if (hi < 0x1p-1000) {
+    hi *= 0x1p100;
+    lo *= 0x1p100;
+    k = -100;
+  }
+  const ld l = s11aaxn(hi, lo, k);
+  const double h = static_cast<double>(l);
+  return {h, static_cast<double>(l - h)};
+}
+
 // ln(x^a e^-x / gamma(a+1)) as hi + lo for a > 1, so that the exponential
 // of it is right to well below an ulp whatever the size of the terms that
 // make it up: exp(-a phi(x/a) - D(a)) / sqrt(2 pi a), phi(l) = l - 1 - ln l
@@ -103,20 +117,20 @@ ld expm1_small(ld y) {
 zeb::dd::dd log_factor(double a, double x) {
   using namespace zeb::dd;
   // phi(lambda) near 1 as phi(mu) of mu = (x - a)/a, x - a being exact
-  // within a factor 2 of a; away from 1 directly, with lambda and its
-  // logarithm in double-double.
+  // within a factor 2 of a; away from 1 directly, with lambda - 1 in
+  // double-double.
   const dd lam = div(dd{x, 0.0}, a);
   dd phi;
   if (std::fabs(lam.hi - 1.0) <= 0.5) {
     phi = s14bayn((x - a) / a);
   } else {
-    phi = sub(add(lam, -1.0), zeb::dd::log(lam));
+    phi = sub(add(lam, -1.0), ln_dd(lam.hi, lam.lo));
   }
   const dd d = a < 15.0 ? s14ahzn(a) : s14ahyn(a);
   dd r = neg(mul(phi, a));
   r = sub(r, d);
   r = add(r, dd{-kHalfLn2PiHi, -kHalfLn2PiLo});
-  dd la = zeb::dd::log(a);
+  dd la = ln_dd(a, 0.0);
   la.hi *= -0.5;
   la.lo *= -0.5;
   return add(r, la);
@@ -131,7 +145,7 @@ ld factor(double a, double x, double& lnf) {
   if (a <= 1.0) {
     ld gm1;
     rgamma1(a, gm1, g);
-    v = zeb::dd::add(zeb::dd::mul(zeb::dd::log(x), a), -x);
+    v = zeb::dd::add(zeb::dd::mul(ln_dd(x, 0.0), a), -x);
   } else {
     v = log_factor(a, x);
   }
