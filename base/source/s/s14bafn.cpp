@@ -87,13 +87,22 @@ void rgamma1(double a, ld& gm1, ld& g) {
   }
 }
 
-// e^y - 1 for |y| <= 3/4 by its Taylor series to y^20/20!, the rest below
+// 1/(k+1)! for k = 19 down to 0, rounded once to 64 bits at compile time.
+struct InvFact {
+  ld c[20];
+  constexpr InvFact() : c{} {
+    ld f = 1.0L;
+    for (int k = 0; k < 20; ++k) {
+      f *= static_cast<ld>(k + 1);
+      c[19 - k] = 1.0L / f;
+    }
+  }
+};
+constexpr InvFact kInvFact;
+
+// e^y - 1 for |y| <= 3/4 as y (1 + y/2! + ... + y^19/20!), the rest below
 // 2^-70 of the value.
-ld expm1_small(ld y) {
-  ld s = 1.0L;
-  for (int n = 20; n >= 2; --n) s = 1.0L + s * y / n;
-  return y * s;
-}
+ld expm1_small(ld y) { return y * zeb::ext::horner<2>(kInvFact.c, y); }
 
 // ln(hi + lo) as a double-double, to the 2^-64 relative accuracy of the
 // table-reduced extended logarithm s11aaxn; hi positive, subnormal or not.
