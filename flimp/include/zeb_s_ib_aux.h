@@ -59,6 +59,9 @@ void s14afzn(double x, double y, int k, double& re, double& im);
 // 0.7 a <= x <= 1.4 a: the smaller tail, Q for x >= a, P for x < a
 // (s14bazn.cpp).
 double s14bazn(double a, double x, double tol);
+// The same with the smaller tail in small and its complement in large, each
+// rounded once from the extended format.
+void s14bazn(double a, double x, double tol, double& small, double& large);
 // mu - ln(1+mu) for mu > -1, as hi + lo (s14bayn.cpp).
 zeb::dd::dd s14bayn(double mu);
 

@@ -126,12 +126,15 @@ zeb::dd::dd ln_dd(double hi, double lo) {
 zeb::dd::dd log_factor(double a, double x) {
   using namespace zeb::dd;
   // phi(lambda) near 1 as phi(mu) of mu = (x - a)/a, x - a being exact
-  // within a factor 2 of a; away from 1 directly, with lambda - 1 in
+  // within a factor 2 of a: mu is carried as hi + lo, the rounding of
+  // mu to double moving a phi by up to a phi 2^-52, and phi(hi + lo) is
+  // phi(hi) + lo hi/(1 + hi). Away from 1 directly, with lambda - 1 in
   // double-double.
   const dd lam = div(dd{x, 0.0}, a);
   dd phi;
   if (std::fabs(lam.hi - 1.0) <= 0.5) {
-    phi = s14bayn((x - a) / a);
+    const dd mu = div(dd{x - a, 0.0}, a);
+    phi = add(s14bayn(mu.hi), mu.lo * mu.hi / (1.0 + mu.hi));
   } else {
     phi = sub(add(lam, -1.0), ln_dd(lam.hi, lam.lo));
   }
@@ -194,13 +197,15 @@ void s14bafn(double a, double x, double tol, double& p, double& q, char* errbuf,
   if (!full) eps = tol;
 
   if (a >= 20.0 && 0.7 * a <= x && x <= 1.4 * a) {
-    const double t = s14bazn(a, x, eps);
+    double t = 0.0;
+    double u = 0.0;
+    s14bazn(a, x, eps, t, u);
     if (x >= a) {
       q = t;
-      p = 1.0 - t;
+      p = u;
     } else {
       p = t;
-      q = 1.0 - t;
+      q = u;
     }
     zeb::errbuf_close(errbuf, 0, ifail);
     return;

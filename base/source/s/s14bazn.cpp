@@ -3,11 +3,15 @@
 //   Q(a, x) = (1/2) erfc(eta sqrt(a/2)) + R,  P(a, x) = (1/2) erfc(-eta sqrt(a/2)) - R,
 //   R = exp(-a eta^2/2) / sqrt(2 pi a) sum_k C_k(eta) a^-k,
 // with lambda = x/a, eta^2/2 = lambda - 1 - ln(lambda) and eta of the sign of
-// lambda - 1. Returns the smaller tail: Q for x >= a, P for x < a. The sum
-// over k stops when a term falls below tol times the sum.
+// lambda - 1. Gives the smaller tail (Q for x >= a, P for x < a) and its
+// complement. The sum over k stops when a term falls below tol times the
+// sum. a phi and y = sqrt(a phi) are carried as hi + lo, the tails are
+// formed in the x87 extended format; the one part held to double is erfc
+// (s15adfn), at the rounded y, corrected to first order for the low part.
 #include <cmath>
 
 #include "zeb_dd.h"
+#include "zeb_ext.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_ib_aux.h"
 
@@ -190,13 +194,25 @@ constexpr int kN = 25;
 
 }  // namespace
 
-double s14bazn(double a, double x, double tol) {
-  // mu = lambda - 1, exact to one rounding: x - a is exact in the band.
-  const double mu = (x - a) / a;
-  const zeb::dd::dd ph = s14bayn(mu);  // mu - ln(1+mu)
+void s14bazn(double a, double x, double tol, double& small, double& large) {
+  using namespace zeb::dd;
+  using zeb::ext::ld;
+  zeb::ext::Precision guard(a, x);
+  // mu = lambda - 1 as hi + lo (x - a is exact in the band), and
+  // phi(hi + lo) = phi(hi) + lo hi/(1 + hi): the rounding of mu to double
+  // alone would move a phi by a phi 2^-52.
+  const dd mu = div(dd{x - a, 0.0}, a);
+  const dd ph = add(s14bayn(mu.hi), mu.lo * mu.hi / (1.0 + mu.hi));
+  const dd ap = mul(ph, a);  // a phi = y^2
+  // |y| = sqrt(a phi) as hi + lo, the low part from the exact square of hi.
+  const double yh = std::sqrt(ap.hi);
+  double yl = 0.0;
+  if (yh > 0.0) {
+    const dd sq = two_prod(yh, yh);
+    yl = ((ap.hi - sq.hi) - sq.lo + ap.lo) / (2.0 * yh);
+  }
   const double phi = ph.hi + ph.lo;
-  const double eta = std::copysign(std::sqrt(2.0 * phi), mu);
-  const double y = eta * std::sqrt(0.5 * a);
+  const double eta = std::copysign(std::sqrt(2.0 * phi), mu.hi);
 
   double sum = 0.0;
   double ak = 1.0;
@@ -209,12 +225,26 @@ double s14bazn(double a, double x, double tol) {
     if (std::fabs(term) <= tol * std::fabs(sum)) break;
     ak /= a;
   }
-  constexpr double kSqrt2Pi = 2.5066282746310007;
-  // exp(-a phi) with a phi carried as hi + lo.
-  const zeb::dd::dd ap = zeb::dd::mul(ph, a);
-  const double ex = std::exp(-ap.hi);
-  const double r = (ex - ex * ap.lo) / (kSqrt2Pi * std::sqrt(a)) * sum;
-  // The smaller tail: erfc of |y| less or plus R.
-  const double e = 0.5 * s15adfn(std::fabs(y));
-  return x >= a ? e + r : e - r;
+  constexpr ld kSqrt2Pi = 2.50662827463100050241576528481104525L;
+  constexpr ld kInvSqrtPi = 0.564189583547756286948079451560772586L;
+  // exp(-a phi) in extended precision with a phi carried as hi + lo; R,
+  // a few hundredths of the result, needs no more than the double sum.
+  const ld e0 = s14cbwn(-static_cast<ld>(ap.hi));
+  const ld ex = e0 - e0 * ap.lo;
+  const ld r = ex * sum / (kSqrt2Pi * std::sqrt(static_cast<ld>(a)));
+  // (1/2) erfc(yh + yl) = (1/2) erfc(yh) - e^(-y^2) yl / sqrt(pi); then
+  // the smaller tail, erfc less or plus R, and its complement, each rounded
+  // once.
+  const ld e = 0.5L * s15adfn(yh) - ex * yl * kInvSqrtPi;
+  const ld t = x >= a ? e + r : e - r;
+  small = static_cast<double>(t);
+  large = static_cast<double>(1.0L - t);
+  guard.release(small, large);
+}
+
+double s14bazn(double a, double x, double tol) {
+  double small = 0.0;
+  double large = 0.0;
+  s14bazn(a, x, tol, small, large);
+  return small;
 }
