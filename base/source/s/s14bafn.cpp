@@ -7,15 +7,17 @@
 //     a <= alpha, x > 1.5:  the continued fraction of Q (Legendre's, run by
 //                           the recurrence of its convergents);
 //     a <= alpha, x <= 1.5: Q from the Taylor series of gamma(a, x), with
-//                           1/gamma(1+a) from its Taylor polynomial for
-//                           a <= 1/2 and from s14aafn above.
+//                           1/gamma(1+a) from the Taylor polynomial of
+//                           1/gamma(1+b), b = a, a - 1 or a - 2.
 // Each series stops at a term below TOL (at least the machine precision)
 // times its sum, and gives up after 600 terms.
 //
-// The factor x^a e^-x / gamma(a+1) of the series and the fraction is formed
-// as exp(-a phi(x/a) - D(a)) / sqrt(2 pi a), phi(l) = l - 1 - ln l and D the
-// correction to Stirling's formula (s14ahzn), for a > 1, so that its error
-// grows with a phi rather than with a ln x; below, from ln gamma(a+1).
+// The sums run in the x87 extended format and P and Q are each rounded once
+// from it. The factor x^a e^-x / gamma(a+1) of the series and the fraction
+// is the extended exponential of a double-double logarithm: for a > 1,
+// -a phi(x/a) - D(a) - ln(2 pi a)/2, phi(l) = l - 1 - ln l and D the
+// correction to Stirling's formula (s14ahzn), so that its error grows with
+// a phi rather than with a ln x; for a <= 1, a ln x - x, times 1/gamma(1+a).
 #include <cmath>
 
 #include "zeb_dd.h"
