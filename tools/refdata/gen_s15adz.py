@@ -11,6 +11,11 @@ and exp(-r), r = D - j/64, |r| <= 1/128 (+ the rounding of D in double), from
 G a minimax polynomial fitted here (Remez exchange of fit_s_first.py) with the
 error weighted to that of exp(-r) itself.
 
+It also fits the rational R of the last range, A > 4, of degree 6/6 in
+u = 1/A^2 with its coefficients as pairs of doubles rounded to the extended
+format (fit_s_first.py's function and weight, block "tail rational"): with
+plain double coefficients the rounding alone left 1e-18 of erfc, relative.
+
 The table entries are exp() at 40 digits rounded once to the 64-bit
 significand of the x87 extended format and written as exact hexadecimal long
 double literals, so that the compiler reads them without a further rounding:
@@ -27,6 +32,7 @@ import sys
 import mpmath as mp
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import fit_s_first  # noqa: E402
 from fit_s_first import remez  # noqa: E402
 
 mp.mp.dps = 40
@@ -132,17 +138,26 @@ def main():
     lines.append("};")
     out.append("\n".join(lines))
     text = "\n\n".join(out)
+    tail = fit_s_first.table(
+        "kErfcL", fit_s_first.f_erfcl, 0, mp.mpf(1) / 16, 6, 6, "u = 1/A^2",
+        "R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u", w=fit_s_first.w_erfcl,
+        wdesc="erfc-relative", pairs="ext")
+    tail = tail.replace("fitted by tools/refdata/fit_s_first.py; max",
+                        "fitted by tools/refdata/gen_s15adz.py\n// (Remez exchange of fit_s_first.py); max", 1)
+    blocks = [("exp tables", text), ("tail rational", tail)]
     if "--write" in sys.argv[1:]:
         with open(SRC, encoding="utf-8") as f:
             src = f.read()
-        pat = re.compile(r"(// BEGIN GENERATED exp tables\n)(.*?)(// END GENERATED exp tables)", re.S)
-        if not pat.search(src):
-            raise SystemExit("s15adzn.cpp: no GENERATED block")
-        src = pat.sub(lambda m: m.group(1) + text + "\n" + m.group(3), src, count=1)
+        for tag, body in blocks:
+            pat = re.compile(r"(// BEGIN GENERATED " + tag + r"\n)(.*?)(// END GENERATED " + tag + ")", re.S)
+            if not pat.search(src):
+                raise SystemExit(f"s15adzn.cpp: no GENERATED block {tag}")
+            src = pat.sub(lambda m: m.group(1) + body + "\n" + m.group(3), src, count=1)
         with open(SRC, "w", encoding="utf-8") as f:
             f.write(src)
     else:
-        print(text)
+        for tag, body in blocks:
+            print(f"// BEGIN GENERATED {tag}\n{body}\n// END GENERATED {tag}")
 
 
 if __name__ == "__main__":

@@ -42,27 +42,32 @@ constexpr double kErfcM_Q[9][2] = {
     {1.0, 0.0},
 };
 
-// R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u: minimax rational of degree 5/5
-// in u = 1/A^2 on [0.0, 0.0625], fitted by tools/refdata/fit_s_first.py; max
-// erfc-relative error 1.9e-18 with the coefficients rounded to double.
-// Coefficients from the highest power. Numerator:
-constexpr double kErfcL_P[6] = {
-    6.986699161150314,
-    130.74932554526254,
-    154.3096952855478,
-    53.863236130155066,
-    6.887525305595287,
-    0.2820947917738769,
+// BEGIN GENERATED tail rational
+// R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u: minimax rational of degree 6/6
+// in u = 1/A^2 on [0.0, 0.0625], fitted by tools/refdata/gen_s15adz.py
+// (Remez exchange of fit_s_first.py); max
+// erfc-relative error 5.6e-20 with the pairs as stored rounded to the x87
+// extended format. Coefficients from the highest power. Numerator:
+constexpr double kErfcL_P[7][2] = {
+    {26.7339191522557, 5.358058476398011e-16},
+    {701.4369681542622, 1.785980212872865e-14},
+    {1111.7416463210507, -9.018040845519894e-14},
+    {548.4757274922513, 5.27403659152807e-14},
+    {110.55622870957698, -9.916066406492366e-16},
+    {9.459777907500063, -5.388982130888072e-16},
+    {0.28209479177387814, -1.0719740224304636e-18},
 };
 // Denominator:
-constexpr double kErfcL_Q[6] = {
-    428.227689307789,
-    1099.9116031037331,
-    802.0504654914901,
-    226.06366285771742,
-    25.915641502217927,
-    1.0,
+constexpr double kErfcL_Q[7][2] = {
+    {2147.7591678780295, 1.224964632356281e-13},
+    {6829.523018428971, 1.6603652562682313e-13},
+    {6419.776539038046, -1.8855196926132453e-13},
+    {2487.1122112498456, 1.2502763790470614e-13},
+    {440.7126859783564, 6.74108236721465e-15},
+    {35.03403956171879, 4.0883722840012743e-16},
+    {1.0, 0.0},
 };
+// END GENERATED tail rational
 
 // BEGIN GENERATED exp tables
 // exp(-k^2/256), k = 0 .. 425: mpmath at 40 digits rounded to the 64-bit
@@ -307,12 +312,15 @@ constexpr ld k2RsqrtPi = 1.1283791670955125738961589031215452L;
 // 1/sqrt(pi).
 constexpr ld kRsqrtPi = 0.56418958354775628694807945156077259L;
 
-// The table reversed in order, for the polynomial x^(N-1) p(1/x).
+// The table of pairs reversed in order, for the polynomial x^(N-1) p(1/x).
 template <std::size_t N>
 struct Rev {
-  double c[N];
-  constexpr explicit Rev(const double (&p)[N]) : c{} {
-    for (std::size_t i = 0; i < N; ++i) c[i] = p[N - 1 - i];
+  double c[N][2];
+  constexpr explicit Rev(const double (&p)[N][2]) : c{} {
+    for (std::size_t i = 0; i < N; ++i) {
+      c[i][0] = p[N - 1 - i][0];
+      c[i][1] = p[N - 1 - i][1];
+    }
   }
 };
 constexpr Rev kLP(kErfcL_P);
@@ -375,10 +383,11 @@ long double s15adzn(double x, double xl) {
   const double dd = amy * (a + y);
   const double jd = (dd * 64.0 + 0x1.8p52) - 0x1.8p52;
   const ld r = d - jd * 0.015625;
-  // r^2 G(r) is below 2^-15 and is formed in double, from r in double (rd,
-  // within 2^-51 of r): its errors stay below 2^-66 of exp(-r), and the
-  // polynomial runs on the SSE unit beside the x87 work.
-  const double rd = dd - jd * 0.015625;
+  // r^2 G(r) is below 2^-15 and is formed in double, from r rounded to
+  // double (D in double would be 2^-52 off, which r^2 G would pass on times
+  // 2r): its errors stay below 2^-66 of exp(-r), and the polynomial runs on
+  // the SSE unit beside the x87 work.
+  const double rd = static_cast<double>(r);
   double g = kExpG[0];
   for (std::size_t i = 1; i < std::size(kExpG); ++i) g = g * rd + kExpG[i];
   const double w = (rd * rd) * g;
@@ -390,11 +399,11 @@ long double s15adzn(double x, double xl) {
     f = horner_pairs(kErfcM_P, a) / horner_pairs(kErfcM_Q, a);
   } else {
     // R(u)/A^2 = R(u) u, u = 1/A^2, is P(u) u / Q(u), or with the
-    // polynomials reversed in s = A^2, p(s) / (s q(s)), degree 5 over 6; F
+    // polynomials reversed in s = A^2, p(s) / (s q(s)), degree 6 over 7; F
     // is then (q(s) s / sqrt(pi) - p(s)) / (q(s) s A), one division.
     const ld s2 = static_cast<ld>(a) * a;
-    const ld qs = zeb::ext::horner<1>(kLQ.c, s2) * s2;
-    f = (qs * kRsqrtPi - zeb::ext::horner<1>(kLP.c, s2)) / (qs * a);
+    const ld qs = horner_pairs(kLQ.c, s2) * s2;
+    f = (qs * kRsqrtPi - horner_pairs(kLP.c, s2)) / (qs * a);
   }
   // The low part of the argument: d erfc(A)/dA = -(2/sqrt pi) exp(-A^2), so
   // erfc(A + al) = exp(-A^2) (F - (2/sqrt pi) al) to first order.
