@@ -2,9 +2,11 @@
 """Derives the coefficient tables of the first special-function bodies.
 
 Run with /usr/bin/python3 (needs mpmath). Every table of
-base/source/s/{s14aafn,s14abfn,s15adzn,s15adyn,s15aezn,s13aafn,s13aazn,s01bafn,s01bazn}.cpp
-is printed by this script as the C++ text that stands in the source, with its
-provenance line. Usage:
+base/source/s/{s14aafn,s14abfn,s15adzn,s15adyn,s13aafn,s13aazn,s01bafn,s01bazn}.cpp
+and base/source/s/s15aezn.h is printed by this script as the C++ text that
+stands in the source, with its provenance line, except the rational of erfc's
+last range (kErfcL_P, kErfcL_Q) and the tables of its split exponential, which
+tools/refdata/gen_s15adz.py derives. Usage:
 
     fit_s_first.py [TABLE ...]      (default: all tables)
 
@@ -18,7 +20,7 @@ sums in long double, and as one double where the series carries a small part
 of the value; the maximum error quoted is measured afresh on 20000 points, and
 on points crowding the ends, with the coefficients as the body sees them.
 
-The exponential polynomial (table "exp") serves both s15adyn and s15adzn.
+The exponential polynomial (table "exp") serves s15adyn.
 """
 
 import sys
@@ -247,19 +249,6 @@ def f_erfcm(a):
         return mp.exp(a * a) * mp.erfc(a)
 
 
-def f_erfcl(u):
-    if u == 0:
-        return 1 / (2 * SQRTPI)
-    a = 1 / mp.sqrt(u)
-    with mp.workdps(120):
-        return (1 / SQRTPI - a * mp.exp(a * a) * mp.erfc(a)) / u
-
-
-def w_erfcl(u, r):
-    # Error of erfc relative to itself: u * dR / (1/sqrt(pi) - u R).
-    return max(u, mp.mpf(10) ** -8) / (1 / SQRTPI - u * r)
-
-
 def f_log1p(w):
     if w == 0:
         return mp.mpf(2) / 3
@@ -348,13 +337,9 @@ def run(name):
                      "S(v) of erf(x) = (2/sqrt(pi)) (x - x^3/3 + x^5 S(x^2))",
                      w=w_erf, wdesc="erf-relative", pairs=False)
     if name == "erfc":
-        return "\n\n".join([
-            table("kErfcM", f_erfcm, mp.mpf("0.46875"), 4, 8, 8, "A",
-                  "exp(A^2) erfc(A)", pairs="ext"),
-            table("kErfcL", f_erfcl, 0, one / 16, 5, 5, "u = 1/A^2",
-                  "R(u) = (1/sqrt(pi) - A exp(A^2) erfc(A)) / u", w=w_erfcl,
-                  wdesc="erfc-relative", pairs=False),
-        ])
+        # The last range's rational is gen_s15adz.py's.
+        return table("kErfcM", f_erfcm, mp.mpf("0.46875"), 4, 8, 8, "A",
+                     "exp(A^2) erfc(A)", pairs="ext")
     if name == "log1p":
         c = 3 - 2 * mp.sqrt(2)
         return table("kLog1pT", f_log1p, 0, (c * mp.mpf("1.0001")) ** 2, 7, 0,
