@@ -5,12 +5,14 @@
 #include "zeb_ext.h"
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_extlog.h"
 #include "zeb_s_ib_aux.h"
 #include "zeb_x_ib.h"
 
 // x^2 <= 0.5: x + x^3/3 + x^5 S(x^2). Above: (1/2) ln((1 + a)/(1 - a)),
 // a = abs x, the quotient to 2^-64 in the extended format (it is at least
-// 5.8, so that its rounding costs the logarithm nothing). Either is summed
+// 5.8, so that its rounding costs the logarithm nothing), by the inline
+// extended logarithm of zeb_s_extlog.h. Either is summed
 // in the extended format and rounded to double once.
 double s11aafn(double x, char* errbuf, int& ifail) {
   zeb::errbuf_clear(errbuf);
@@ -36,8 +38,7 @@ double s11aafn(double x, char* errbuf, int& ifail) {
   zeb::ext::Precision guard(x);
   const zeb::ext::ld q = (1.0L + a) / (1.0 - a);
   const double hi = static_cast<double>(q);
-  const double lo = static_cast<double>(q - hi);
-  double v = static_cast<double>(0.5L * s11aaxn(hi, lo, 0));
+  double v = static_cast<double>(0.5L * zeb::extlog::log(hi, q - hi, 0));
   guard.release(v);
   return std::copysign(v, x);
 }

@@ -5,6 +5,7 @@
 #include "zeb_dd.h"
 #include "zeb_ext.h"
 #include "zeb_s_ib.h"
+#include "zeb_s_extlog.h"
 #include "zeb_s_ib_aux.h"
 #include "zeb_s_series.h"
 #include "zeb_x_ib.h"
@@ -67,10 +68,11 @@ inline double head2(double u, const double (&c)[N]) {
 // for the ten highest terms of S, at most 1/60 of the value, which are
 // summed in double.
 // Up to 1e9: ln(t), t = a + sqrt(1 + a^2), a = abs x, formed in the
-// extended format and passed as hi + lo to the extended logarithm (t >= 2.4,
+// extended format and passed as hi + lo to the extended logarithm (inline,
+// zeb_s_extlog.h; t >= 2.4,
 // so that its relative error of a few 2^-64 costs nothing). Beyond 1e9,
-// where sqrt(1 + a^2) rounds to a: ln(2a), as the same logarithm of a with
-// one more power of 2. The sign is that of x; the value is rounded to
+// where sqrt(1 + a^2) rounds to a: ln(2a), as the same logarithm of a/4
+// (below 2^1022, the logarithm's range) with three powers of 2. The sign is that of x; the value is rounded to
 // double once.
 double s11abfn(double x) {
   const double a = std::fabs(x);
@@ -86,20 +88,21 @@ double s11abfn(double x) {
     guard.release(v);
     return v;
   }
-  if (!(a <= x02alfn())) return x;  // an infinity or a NaN
-  zeb::ext::Precision guard(x);
   double v;
   if (a <= 1.0e9) {
+    zeb::ext::Precision guard(x);
     // t = a + sqrt(1 + a^2) to 2^-62 in the extended format, as hi + lo with
     // a - hi exact.
     const zeb::ext::ld al = a;
-    const zeb::ext::ld s = sqrtl(1.0L + al * al);
+    const zeb::ext::ld s = zeb::extlog::sqrt(1.0L + al * al);
     const double hi = static_cast<double>(al + s);
-    const double lo = static_cast<double>((al - hi) + s);
-    v = static_cast<double>(s11aaxn(hi, lo, 0));
-  } else {
-    v = static_cast<double>(s11aaxn(0.5 * a, 0.0, 2));  // 0.5 a exact, below 2^1022
+    v = static_cast<double>(zeb::extlog::log(hi, (al - hi) + s, 0));
+    guard.release(v);
+    return std::copysign(v, x);
   }
+  if (!(a <= x02alfn())) return x;  // an infinity or a NaN
+  zeb::ext::Precision guard(x);
+  v = static_cast<double>(zeb::extlog::log(0.25 * a, 0.0L, 3));  // 0.25 a exact, below 2^1022
   guard.release(v);
   return std::copysign(v, x);
 }
