@@ -485,9 +485,9 @@ def gen_s14cczn(rng):
         if not 0 < x < 1:
             continue
         pts.append((a, b) + exact_pair(x))
-    cuts = [(100.0, b, 0.99, 0.01) for b in around([5.0])] + \
-           [(a, 5.0, 0.97, 0.03) for a in around([100.0])] + \
-           [(1000.0, b, 0.97, 0.03) for b in around([30.0])] + \
+    cuts = [(100.0, b) + exact_pair(0.99) for b in around([5.0])] + \
+           [(a, 5.0) + exact_pair(0.97) for a in around([100.0])] + \
+           [(1000.0, b) + exact_pair(0.97) for b in around([30.0])] + \
            [(200.0, 2.5) + exact_pair(x) for x in around([math.exp(-1)])] + \
            [(2.5, 200.0) + exact_pair(1.0 - x) for x in around([math.exp(-1)])] + \
            [(3.0, 4.0) + exact_pair(x) for x in around([0.5])] + \
