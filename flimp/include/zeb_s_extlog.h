@@ -172,9 +172,9 @@ inline ld sqrt(ld v) {
 // at most an ulp or two of hi, and a caller that holds a
 // zeb::ext::Precision. With hi = 2^e m, m in [1, 2), and the row i of
 // kLnRed nearest to m: ln(hi + lo) = e ln 2 - ln c_i + ln(1 + r),
-// r = (hi + lo) c_i 2^-e - 1, where hi c_i 2^-e = m c_i is exact in 64 bits
-// and |r| <= 0.0041. c_i 2^-e is formed on the exponent field (it is a
-// normal double over the whole range of hi).
+// r = m c_i - 1 + lo c_i 2^-e, where m (from the bits of hi) times c_i is
+// exact in 64 bits and |r| <= 0.0041; c_i 2^-e is formed on the exponent
+// field (a normal double over the whole range of hi).
 // ln(1 + r) = r - r^2/2 in 64 bits, plus r^3/3 - r^4/4 + ... - r^8/8 in
 // double from r rounded to double, that part below 2^-22 of the value; the
 // truncation is below 2^-66 of it. e ln 2 - ln c_i is the exact double
@@ -182,24 +182,27 @@ inline ld sqrt(ld v) {
 // first row, c = 1 and ln c = 0, so that r = hi - 1 + lo with hi - 1 exact,
 // and the value keeps its relative accuracy just above 1; in the last, c =
 // 1/2 and -ln c = kLn2Hi + kLn2Lo, which cancel both parts of -ln 2 exactly
-// for hi just below 1.
+// for hi just below 1. The value is good to 2^-62 of itself.
 inline ld log(double hi, ld lo, int k) {
   const auto bits = std::bit_cast<std::uint64_t>(hi);
   const int eb = static_cast<int>(bits >> 52) - 1023;
   const std::size_t i = (((bits >> 44) & 255) + 1) >> 1;
   const double(&row)[3] = kLnRed[i];
+  const double m = std::bit_cast<double>((bits & 0x000fffffffffffffULL) | 0x3ff0000000000000ULL);
   const double cs = std::bit_cast<double>(std::bit_cast<std::uint64_t>(row[0]) -
                                           (static_cast<std::uint64_t>(eb) << 52));
-  const ld r = (static_cast<ld>(hi) * cs - 1.0L) + lo * cs;
+  const ld r = (static_cast<ld>(m) * row[0] - 1.0L) + lo * cs;
   const double rd = static_cast<double>(r);
   const double r2 = rd * rd;
-  const double r4 = r2 * r2;
-  // r^3 (1/3 - r/4 + r^2/5 - r^3/6 + r^4/7 - r^5/8), by Estrin's scheme.
-  const double tail = (rd * r2) * (((1.0 / 3) - rd * 0.25) + r2 * (0.2 - rd * (1.0 / 6)) +
-                                   r4 * ((1.0 / 7) - rd * 0.125));
+  const double r3 = r2 * rd;
+  // r^3 (1/3 - r/4) + r^5 (1/5 - r/6) + r^7 (1/7 - r/8), in terms that
+  // start together, and the low part of e ln 2 - ln c joined to the first.
   const double e = eb + k;
-  const double low = tail + (e * kLn2Lo + row[2]);
-  return static_cast<ld>(e * kLn2Hi + row[1]) + ((r - 0.5L * (r * r)) + low);
+  const double t0 = (e * kLn2Lo + row[2]) + r3 * ((1.0 / 3) - rd * 0.25);
+  const double t1 = (r3 * r2) * ((0.2 - rd * (1.0 / 6)) + r2 * ((1.0 / 7) - rd * 0.125));
+  // e ln 2 - ln c + r - r^2/2 rounds to 64 bits relative to itself: where
+  // its parts cancel, both halves of e ln 2 - ln c are 0.
+  return (static_cast<ld>(e * kLn2Hi + row[1]) + (r - 0.5L * (r * r))) + (t0 + t1);
 }
 
 }  // namespace zeb::extlog
