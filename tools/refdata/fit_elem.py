@@ -503,7 +503,7 @@ TABLES = {
                                    mp.mpf("0.7875") ** 2, 13, "0.7875^2")),
     "asin": ("base/source/s/s09aazn.cpp",
              lambda: odd_tail_table("kAsinS", "asin(x)", mp.asin, mp.mpf(1) / 6, "1/6",
-                                    mp.mpf("0.25"), 11, "0.25")),
+                                    mp.mpf("0.25"), 12, "0.25")),
     "tanh": ("base/source/s/s10aafn.cpp",
              lambda: odd_tail_table("kTanhS", "tanh(x)", mp.tanh, -mp.mpf(1) / 3, "(-1/3)",
                                     mp.mpf(1), 14, "1")),
