@@ -62,6 +62,50 @@ inline double horner2(double t, const double (&c)[N]) {
   return detail::chain2<N - 1>(s, c) + t * detail::chain2<N - 2>(s, c);
 }
 
+// The polynomial of the first M entries of c (from the highest power) at u,
+// by two Horner chains in u^2: the head of a table whose last entries the
+// caller sums in wider precision.
+template <std::size_t M, std::size_t N>
+inline double head2(double u, const double (&c)[N]) {
+  static_assert(M >= 3 && M <= N);
+  const double s = u * u;
+  double a = c[0];  // the powers M-1, M-3, ...
+  double b = c[1];  // the powers M-2, M-4, ...
+  std::size_t i = 2;
+  for (; i + 1 < M; i += 2) {
+    a = a * s + c[i];
+    b = b * s + c[i + 1];
+  }
+  if constexpr (M % 2 == 0) {
+    return a * u + b;
+  } else {
+    return b * u + (a * s + c[M - 1]);
+  }
+}
+
+// c[0] + c[1] t + ... + c[nt-1] t^(nt-1) at the complex t = tr + i ti, nt
+// even and at least 2, as (pr, pi): the even and the odd powers as two
+// Horner chains in t^2, side by side, joined at the end.
+inline void complex_horner2(const double* c, int nt, double tr, double ti, double& pr,
+                            double& pi) {
+  const double t2r = tr * tr - ti * ti;
+  const double t2i = 2.0 * tr * ti;
+  double er = c[nt - 2];
+  double ei = 0.0;
+  double orr = c[nt - 1];
+  double oi = 0.0;
+  for (int j = nt - 4; j >= 0; j -= 2) {
+    const double ner = er * t2r - ei * t2i + c[j];
+    ei = er * t2i + ei * t2r;
+    er = ner;
+    const double nor = orr * t2r - oi * t2i + c[j + 1];
+    oi = orr * t2i + oi * t2r;
+    orr = nor;
+  }
+  pr = er + (orr * tr - oi * ti);
+  pi = ei + (orr * ti + oi * tr);
+}
+
 // The odd series x + x^3/K + x^5 S(x^2), for K = +-3 or +-6, less its first
 // term: q + r with q the rounded x^3/K and r the rest. x^3 is formed exactly
 // but for a term of 2^-106 of it (Dekker's products, with the halves of x

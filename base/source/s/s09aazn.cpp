@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "zeb_ext.h"
+#include "zeb_s_series.h"
 
 namespace {
 
@@ -33,26 +34,6 @@ constexpr double kAsinS[13] = {
 };
 // </fit_elem:asin>
 
-// The polynomial of the first M entries of c (from the highest power) at u,
-// by two Horner chains in u^2.
-template <std::size_t M, std::size_t N>
-inline double head2(double u, const double (&c)[N]) {
-  static_assert(M >= 3 && M <= N);
-  const double s = u * u;
-  double a = c[0];  // the powers M-1, M-3, ...
-  double b = c[1];  // the powers M-2, M-4, ...
-  std::size_t i = 2;
-  for (; i + 1 < M; i += 2) {
-    a = a * s + c[i];
-    b = b * s + c[i + 1];
-  }
-  if constexpr (M % 2 == 0) {
-    return a * u + b;
-  } else {
-    return b * u + (a * s + c[M - 1]);
-  }
-}
-
 // asin x = x + x u (1/6 + u S(u)), u = x^2, in the extended format for
 // abs(x) <= 1/2, under the 64-bit precision control. The terms of S past
 // its lowest three, x u^5 times at most 0.03, below 2^-15 of the value, are
@@ -60,7 +41,7 @@ inline double head2(double u, const double (&c)[N]) {
 // about 2^-67 of the value; the rest, in 64 bits.
 inline ld asin_ext(ld x) {
   const ld u = x * x;
-  ld p = head2<10>(static_cast<double>(u), kAsinS);
+  ld p = zeb::series::head2<10>(static_cast<double>(u), kAsinS);
   for (std::size_t k = 10; k < 13; ++k) p = p * u + kAsinS[k];
   return x + x * u * (p * u + 1.0L / 6);
 }

@@ -41,26 +41,6 @@ constexpr double kAtanhS[20] = {
 
 using zeb::ext::ld;
 
-// The polynomial of the first M entries of c (from the highest power) at u,
-// by two Horner chains in u^2.
-template <std::size_t M, std::size_t N>
-inline double head2(double u, const double (&c)[N]) {
-  static_assert(M >= 3 && M <= N);
-  const double s = u * u;
-  double a = c[0];  // the powers M-1, M-3, ...
-  double b = c[1];  // the powers M-2, M-4, ...
-  std::size_t i = 2;
-  for (; i + 1 < M; i += 2) {
-    a = a * s + c[i];
-    b = b * s + c[i + 1];
-  }
-  if constexpr (M % 2 == 0) {
-    return a * u + b;
-  } else {
-    return b * u + (a * s + c[M - 1]);
-  }
-}
-
 }  // namespace
 
 // atanh(x) - x = x^3/3 + x^5 S(x^2) for x^2 <= 1/2, in double.
@@ -73,7 +53,7 @@ double s11aazn(double x) { return zeb::series::odd_tail_plain<3>(x, kAtanhS); }
 long double s11aayn(double x) {
   const ld xl = x;
   const ld u = xl * xl;
-  const ld r = head2<18>(x * x, kAtanhS);
+  const ld r = zeb::series::head2<18>(x * x, kAtanhS);
   const ld p = (r * u + kAtanhS[18]) * u + kAtanhS[19];
   return xl + xl * u * (p * u + 1.0L / 3);
 }

@@ -42,26 +42,6 @@ constexpr double kAsinhS[20] = {
 };
 // </fit_elem:asinh>
 
-// The polynomial of the first M entries of c (from the highest power) at u,
-// by two Horner chains in u^2.
-template <std::size_t M, std::size_t N>
-inline double head2(double u, const double (&c)[N]) {
-  static_assert(M >= 3 && M <= N);
-  const double s = u * u;
-  double a = c[0];  // the powers M-1, M-3, ...
-  double b = c[1];  // the powers M-2, M-4, ...
-  std::size_t i = 2;
-  for (; i + 1 < M; i += 2) {
-    a = a * s + c[i];
-    b = b * s + c[i + 1];
-  }
-  if constexpr (M % 2 == 0) {
-    return a * u + b;
-  } else {
-    return b * u + (a * s + c[M - 1]);
-  }
-}
-
 }  // namespace
 
 // abs(x) <= 1: x + x u (-1/6 + u S(u)), u = x^2, in the extended format but
@@ -82,7 +62,7 @@ double s11abfn(double x) {
     zeb::ext::Precision guard(x);
     const zeb::ext::ld xl = x;
     const zeb::ext::ld u = xl * xl;
-    zeb::ext::ld p = head2<10>(x * x, kAsinhS);
+    zeb::ext::ld p = zeb::series::head2<10>(x * x, kAsinhS);
     for (std::size_t k = 10; k < 20; ++k) p = p * u + kAsinhS[k];
     double v = static_cast<double>(xl + xl * u * (p * u - 1.0L / 6));
     guard.release(v);

@@ -17,6 +17,7 @@
 #include "zeb_ext.h"
 #include "zeb_s_bernoulli.h"
 #include "zeb_s_ib_aux.h"
+#include "zeb_s_series.h"
 
 namespace {
 
@@ -128,22 +129,9 @@ void s14agzn(double x, double y, double& re, double& im) {
     const double tr = ir * ir - ii * ii;
     const double ti = 2.0 * ir * ii;
     const int nt = kTerms.n[slot(static_cast<double>(inv))];
-    const double t2r = tr * tr - ti * ti;
-    const double t2i = 2.0 * tr * ti;
-    double er = c[nt - 2];
-    double ei = 0.0;
-    double orr = c[nt - 1];
-    double oi = 0.0;
-    for (int j = nt - 4; j >= 0; j -= 2) {
-      const double ner = er * t2r - ei * t2i + c[j];
-      ei = er * t2i + ei * t2r;
-      er = ner;
-      const double nor = orr * t2r - oi * t2i + c[j + 1];
-      oi = orr * t2i + oi * t2r;
-      orr = nor;
-    }
-    const double pr = er + (orr * tr - oi * ti);
-    const double pj = ei + (orr * ti + oi * tr);
+    double pr = 0.0;
+    double pj = 0.0;
+    zeb::series::complex_horner2(c, nt, tr, ti, pr, pj);
     dre = pr * ir - pj * ii;
     dim = pr * ii + pj * ir;
   }
