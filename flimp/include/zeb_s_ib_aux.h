@@ -62,6 +62,12 @@ double s14bazn(double a, double x, double tol);
 // The same with the smaller tail in small and its complement in large, each
 // rounded once from the extended format.
 void s14bazn(double a, double x, double tol, double& small, double& large);
+// The continued fraction f of Q(a, x) = a x^a e^-x / gamma(a+1) f in the
+// x87 extended format, stopped when a step moves it by at most eps, and on
+// until at most fine (s14bawn.cpp); met: the eps test was passed within
+// maxit steps.
+long double s14bawn(long double a, long double x, long double eps, long double fine, int maxit,
+                    bool& met);
 // mu - ln(1+mu) for mu > -1, as hi + lo (s14bayn.cpp).
 zeb::dd::dd s14bayn(double mu);
 

@@ -269,48 +269,13 @@ void s14bafn(double a, double x, double tol, double& p, double& q, char* errbuf,
       p = 1.0;
       q = 0.0;
     } else {
-      // Q = a x^a e^-x / gamma(a+1) f, f = 1/(b_0 + a_1/(b_1 + a_2/(b_2 + ...))),
-      // a_k = k(a-k), b_k = x + 2k + 1 - a: the convergents A_k/B_k by
-      // their three-term recurrence in extended precision, which has no
-      // division in its chain of dependent steps, and whose roundings stay
-      // at the level of the format's. The sum stops when a convergent moves
-      // the value by less than TOL, then goes on while the moves exceed
-      // 2^-64, the last of which are cheap, the fraction converging
-      // geometrically there. B_k grows like a factorial; a rare rescaling
-      // keeps it in range.
+      // Q = a x^a e^-x / gamma(a+1) f with f the continued fraction
+      // (s14bawn), stopped by TOL, then taken on to 2^-64 where TOL does not
+      // cut it short.
       const ld la = a;
-      const ld lx = x;
-      ld ap = 1.0L;  // A_(k-1)
-      ld bp = 0.0L;  // B_(k-1)
-      ld ac = 0.0L;  // A_k
-      ld bc = 1.0L;  // B_k
-      ld fprev = 0.0L;
-      ld f = 0.0L;
       bool met = false;
-      constexpr ld kFine = 0x1p-64L;
-      int k = 0;
-      for (; k <= kMaxIter; ++k) {
-        // Step k: numerator a_k (1 for k = 0), denominator b_k.
-        const ld ak = k == 0 ? 1.0L : k * (la - k);
-        const ld bk = (lx - la) + (2 * k + 1);
-        const ld an = bk * ac + ak * ap;
-        const ld bn = bk * bc + ak * bp;
-        ap = ac;
-        bp = bc;
-        ac = an;
-        bc = bn;
-        f = ac / bc;
-        const ld d = std::fabs(f - fprev);
-        if (d <= eps * f) met = true;
-        if (met && (!full || d <= kFine * f)) break;
-        fprev = f;
-        if (std::fabs(bc) > 0x1p8000L) {
-          ap *= 0x1p-8000L;
-          bp *= 0x1p-8000L;
-          ac *= 0x1p-8000L;
-          bc *= 0x1p-8000L;
-        }
-      }
+      const ld eps_l = eps;
+      const ld f = s14bawn(la, x, eps_l, full ? 0x1p-64L : eps_l, kMaxIter, met);
       if (!met) code = 3;
       double lnf = 0.0;
       ld qq = la * f * factor(a, x, lnf);

@@ -76,33 +76,10 @@ bool gamma_pq(ld b, ld u, ld f, ld& p, ld& q) {
     q = 1.0L - p;
     return true;
   }
-  // Q = b f / (u + 1 - b + a_1/(u + 3 - b + a_2/(...))), a_k = k (b - k),
-  // by the recurrences of the convergents.
-  ld ap = 1.0L;
-  ld bp = 0.0L;
-  ld ac = 0.0L;
-  ld bc = 1.0L;
-  ld g = 0.0L;
-  ld gprev = 0.0L;
-  for (int k = 0; k <= kMaxIter; ++k) {
-    const ld ak = k == 0 ? 1.0L : k * (b - k);
-    const ld bk = (u - b) + (2 * k + 1);
-    const ld an = bk * ac + ak * ap;
-    const ld bn = bk * bc + ak * bp;
-    ap = ac;
-    bp = bc;
-    ac = an;
-    bc = bn;
-    g = ac / bc;
-    if (fabsl(g - gprev) <= 0x1p-66L * g) break;
-    gprev = g;
-    if (fabsl(bc) > 0x1p8000L) {
-      ap *= 0x1p-8000L;
-      bp *= 0x1p-8000L;
-      ac *= 0x1p-8000L;
-      bc *= 0x1p-8000L;
-    }
-  }
+  // Q = b f / (u + 1 - b + a_1/(u + 3 - b + a_2/(...))), a_k = k (b - k):
+  // the continued fraction of s14bawn, to 2^-66.
+  bool met = false;
+  const ld g = s14bawn(b, u, 0x1p-66L, 0x1p-66L, kMaxIter, met);
   q = b * f * g;
   if (q > 1.0L) q = 1.0L;
   p = 1.0L - q;
