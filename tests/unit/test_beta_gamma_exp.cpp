@@ -11,16 +11,13 @@
 #include <cmath>
 
 #include "zeb_s_ib_aux.h"
+#include "ulps.h"
 
 namespace {
 
 using ld = long double;
 
-double ulps(double got, ld want) {
-  int e = 0;
-  frexpl(want, &e);
-  return static_cast<double>(fabsl(got - want) / ldexpl(1.0L, e - 53));
-}
+using zeb::test::ulps;
 
 // sum_{k<b} C(n, k) y^k x^(n-k), n = a + b - 1, x = 1 - y exactly.
 ld binomial_tail(int a, int b, double x, double y) {

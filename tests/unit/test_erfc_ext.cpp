@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "zeb_s_ib.h"
+#include "ulps.h"
 
 namespace {
 
@@ -17,11 +18,7 @@ using ld = long double;
 
 // |got - ref| in ulps of the double nearest ref, the subnormal ulp below the
 // normal range.
-double ulps(double got, ld ref) {
-  int e = 0;
-  frexpl(ref, &e);
-  return static_cast<double>(fabsl(got - ref) / ldexpl(1.0L, std::max(e - 53, -1074)));
-}
+using zeb::test::ulps;
 
 constexpr double kTol = 0.52;
 

@@ -12,17 +12,14 @@
 #include <cmath>
 
 #include "zeb_s_ib.h"
+#include "ulps.h"
 
 namespace {
 
 using ld = long double;
 
 // |got - ref| in units of the last place of the double nearest ref.
-double ulps(double got, ld ref) {
-  const double r = static_cast<double>(ref);
-  const double ulp = std::nextafter(std::fabs(r), INFINITY) - std::fabs(r);
-  return static_cast<double>(fabsl(static_cast<ld>(got) - ref) / ulp);
-}
+using zeb::test::ulps;
 
 void pair(double a, double x, double tol, double& p, double& q) {
   char eb[200];

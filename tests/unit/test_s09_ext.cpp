@@ -9,16 +9,13 @@
 
 #include "zeb_frame.h"
 #include "zeb_s_ib.h"
+#include "ulps.h"
 
 namespace {
 
 using ld = long double;
 
-double ulps(double got, ld ref) {
-  int e = 0;
-  frexpl(ref, &e);
-  return static_cast<double>(fabsl(got - ref) / ldexpl(1.0L, e - 53));
-}
+using zeb::test::ulps;
 
 double asin_(double x) {
   char eb[zeb::errbuf_len];
