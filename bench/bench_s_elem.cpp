@@ -31,45 +31,17 @@
 #define ZEB_TEST_DATA_DIR "tests/data"
 #endif
 #include "../tests/accuracy/accuracy.h"
+#include "bench_harness.h"
 #include "zeb_s_ib.h"
 
 namespace {
 
-using Real = std::function<double(double)>;
-using Timer = void (*)(benchmark::State&, const std::vector<double>&);
-
-// A body with ERRBUF and IFAIL as a function of x alone.
-template <auto Body>
-double call(double x) {
-  char errbuf[zeb::errbuf_len];
-  int ifail = 1;
-  return Body(x, errbuf, ifail);
-}
-
-// The timing loop, with the function inlined into it.
-template <class F>
-void run(benchmark::State& st, const std::vector<double>& x, F f) {
-  for (auto _ : st) {
-    double s = 0.0;
-    for (double v : x) s += f(v);
-    benchmark::DoNotOptimize(s);
-  }
-  st.SetItemsProcessed(st.iterations() * static_cast<long>(x.size()));
-}
-
-struct Impl {
-  std::string who;
-  Real f;       // for the error table
-  Timer timer;  // the same expression, inlined into the timing loop
-};
-
-#define IMPL(who, expr)                                                      \
-  Impl {                                                                     \
-    who, [](double x) { return expr; },                                      \
-        [](benchmark::State& st, const std::vector<double>& xs) {            \
-          run(st, xs, [](double x) { return expr; });                        \
-        }                                                                    \
-  }
+using zeb::bench::call;
+using zeb::bench::Impl;
+using zeb::bench::Real;
+using zeb::bench::Timer;
+using zeb::bench::run;
+#define IMPL ZEB_BENCH_IMPL
 
 struct Func {
   std::string routine;  // the table

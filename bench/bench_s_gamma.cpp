@@ -40,6 +40,7 @@
 #define ZEB_TEST_DATA_DIR "tests/data"
 #endif
 #include "../tests/accuracy/accuracy.h"
+#include "bench_harness.h"
 #include "zeb_s_ib.h"
 #include "zeb_s_ib_aux.h"
 
@@ -48,23 +49,13 @@ namespace {
 using Args = std::array<double, 4>;
 using Points = std::vector<Args>;
 using Timer = void (*)(benchmark::State&, const Points&);
+using zeb::bench::run;
 
 using NoThrow = boost::math::policies::policy<
     boost::math::policies::domain_error<boost::math::policies::ignore_error>,
     boost::math::policies::pole_error<boost::math::policies::ignore_error>,
     boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
     boost::math::policies::evaluation_error<boost::math::policies::ignore_error>>;
-
-// The timing loop, with the function inlined into it.
-template <class F>
-void run(benchmark::State& st, const Points& pts, F f) {
-  for (auto _ : st) {
-    double s = 0.0;
-    for (const auto& a : pts) s += f(a);
-    benchmark::DoNotOptimize(s);
-  }
-  st.SetItemsProcessed(st.iterations() * static_cast<long>(pts.size()));
-}
 
 // A result: one real, or a complex one as two parts.
 struct Val {
@@ -99,13 +90,6 @@ struct Func {
 
 Val R(double v) { return {v, 0.0}; }
 Val C(std::complex<double> v) { return {v.real(), v.imag()}; }
-
-template <auto Body>
-double call1(double x) {
-  char eb[zeb::errbuf_len];
-  int ifail = 1;
-  return Body(x, eb, ifail);
-}
 
 double zeb_s14adf(double x, int n) {
   char eb[zeb::errbuf_len];
@@ -181,7 +165,7 @@ bool ok_s14acf(const Args& a) {
 std::vector<Func> functions() {
   return {
       {"s14acf", "psi - ln x", 1, 1, 0, 1, ok_s14acf,
-       {IMPL("ZEB", R(call1<s14acfn>(a[0]))),
+       {IMPL("ZEB", R(zeb::bench::call<s14acfn>(a[0]))),
         IMPL("GSL", R(gsl_sf_psi(a[0]) - std::log(a[0]))),
         IMPL("Boost", R(boost::math::digamma(a[0], NoThrow()) - std::log(a[0])))}},
       {"s14adf", "scaled psi^(n)", 2, 1, 0, 1, always,
@@ -198,7 +182,7 @@ std::vector<Func> functions() {
       {"s14agf", "ln gamma, complex", 2, 2, 0, 2, always,
        {IMPL("ZEB", C(zeb_s14agf(a[0], a[1]))), IMPL("GSL", gsl_clngamma(a[0], a[1]))}},
       {"s14ahf", "scaled ln gamma", 1, 1, 0, 1, always,
-       {IMPL("ZEB", R(call1<s14ahfn>(a[0]))),
+       {IMPL("ZEB", R(zeb::bench::call<s14ahfn>(a[0]))),
         IMPL("libm", R(std::lgamma(a[0]) - (a[0] - 0.5) * std::log(a[0]) + a[0] - kHalfLn2Pi)),
         IMPL("GSL", R(gsl_sf_lngamma(a[0]) - (a[0] - 0.5) * std::log(a[0]) + a[0] - kHalfLn2Pi)),
         IMPL("Boost", R(boost::math::lgamma(a[0], NoThrow()) - (a[0] - 0.5) * std::log(a[0]) +
